@@ -1,0 +1,22 @@
+# A library for one layer: the sources of one or more folders below src/, and the layers that it may see. What a layer
+# does not list it does not link. EXCEPT leaves out the sources that match.
+function(rf_layer name)
+  cmake_parse_arguments(ARG "" "EXCEPT" "FOLDERS;DEPENDS;LIBRARIES" ${ARGN})
+  if(NOT ARG_FOLDERS)
+    set(ARG_FOLDERS ${name})
+  endif()
+  set(sources)
+  foreach(folder IN LISTS ARG_FOLDERS)
+    file(GLOB found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp)
+    list(APPEND sources ${found})
+  endforeach()
+  # The entry points belong to the programs.
+  list(FILTER sources EXCLUDE REGEX "/entry\\.cpp$")
+  if(ARG_EXCEPT)
+    list(FILTER sources EXCLUDE REGEX "${ARG_EXCEPT}")
+  endif()
+  add_library(rf_${name} STATIC ${sources})
+  target_include_directories(rf_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src ${PROJECT_BINARY_DIR}/generated)
+  list(TRANSFORM ARG_DEPENDS PREPEND rf_)
+  target_link_libraries(rf_${name} PUBLIC ${ARG_DEPENDS} ${ARG_LIBRARIES})
+endfunction()

@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Runs every fuzz program of a build for a time each. Ends with status 1 when one crashes, hangs or takes too much memory;
+# the input that did it is then named, and kept below the build.
+#
+#   scripts/fuzz.sh BUILD_FOLDER SECONDS
+set -uo pipefail
+cd "$(dirname "$0")/.."
+
+if [ $# -ne 2 ] || ! ls "$1"/bin/*_fuzz > /dev/null 2>&1; then
+    sed -n '2,5s/^# \{0,1\}//p' "$0" >&2
+    exit 2
+fi
+megabytes=2048
+# A program that is ended by a sanitizer has to say which input it was, so it is ended by a signal that it can catch.
+export ASAN_OPTIONS=abort_on_error=1:hard_rss_limit_mb=$megabytes:detect_leaks=1 UBSAN_OPTIONS=abort_on_error=1:print_stacktrace=1
+
+status=0
+for program in "$1"/bin/*_fuzz; do
+    name=$(basename "$program" _fuzz)
+    work=$1/fuzz/$name
+    mkdir -p "$work/corpus" "$work/found"
+    seeds=tests/data/fuzz/$name
+    [ -d "$seeds" ] || seeds=
+    echo "$name:"
+    if timeout -s KILL $(($2 + 120)) "$program" -max_total_time="$2" -timeout=25 -rss_limit_mb=$megabytes -max_len=20000 \
+        -print_final_stats=1 -artifact_prefix="$work/found/" "$work/corpus" $seeds > "$work/log" 2>&1; then
+        grep -hE 'inputs, seed|number_of_executed_units' "$work/log"
+    else
+        status=1
+        tail -n 40 "$work/log"
+        echo "FAILED: $name; the input is in: $(ls -t "$work"/found/* 2> /dev/null | head -n 1)"
+        echo "Again: $program THAT_FILE"
+    fi
+done
+exit $status

@@ -1,0 +1,150 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, and runs every test: on Linux under the address and undefined-behaviour sanitizers,
+# and the same portable tests once more as Windows programs under Wine.
+#
+#   ./test.sh         the quick checks: format, Linux tests, Windows tests
+#   ./test.sh --all   the slow ones too: clang-tidy over everything, the 32-bit build, long fault
+#                     and fuzz runs
+set -uo pipefail
+cd "$(dirname "$0")"
+. scripts/packages.sh
+
+usage() { sed -n '2,7s/^# \{0,1\}//p' "$0"; }
+slow=no
+for argument in "$@"; do
+    case $argument in
+    --all) slow=yes ;;
+    --help | -h) usage; exit 0 ;;
+    *) echo "test.sh: unknown option $argument" >&2; usage >&2; exit 2 ;;
+    esac
+done
+
+mkdir -p build/logs
+# Whatever a test puts among the temporary files goes with this run, and a test that leaves some there is found out.
+TMPDIR=$(mktemp -d)
+# Tests that give up their rights have to get in.
+chmod 755 "$TMPDIR"
+export TMPDIR
+trap 'rm -rf "$TMPDIR"' EXIT
+failures=()
+notes=()
+
+fail() { failures+=("$1"); echo "FAILED: $1" >&2; }
+
+# step NAME COMMAND...: runs a step, shows its output when it fails.
+step() {
+    local name=$1 log started=$SECONDS
+    shift
+    log=build/logs/$(echo "$name" | tr ' /' '--').log
+    echo "== $name"
+    if "$@" > "$log" 2>&1; then
+        echo "   done in $((SECONDS - started)) s"
+        return 0
+    fi
+    tail -n 60 "$log"
+    fail "$name (log: $log)"
+    return 1
+}
+
+build() { cmake --preset "$1" && cmake --build --preset "$1"; }
+
+format() {
+    git ls-files -co --exclude-standard -- '*.cpp' '*.h' | while read -r file; do [ -f "$file" ] && echo "$file"; done |
+        xargs clang-format --dry-run --Werror
+}
+
+# run_tests LABEL LOG COMMAND...: runs one test program; its tests are counted from GoogleTest's own summary.
+run_tests() {
+    local label=$1 log=$2 status
+    shift 2
+    timeout 600 "$@" > "$log" 2>&1
+    status=$?
+    if [ $status -ne 0 ]; then
+        grep -aE '^\[  FAILED|Failure|ERROR|runtime error' "$log" | head -n 40
+        fail "$label: $(basename "$1") ended with status $status (log: $log)"
+    fi
+}
+
+# Qt makes its folder of the session there when the system has none for the user.
+nothing_left() { [ -z "$(find "$TMPDIR" -mindepth 1 -not -path "$TMPDIR/runtime-*" -print | tee /dev/stderr)" ]; }
+
+# summary LABEL LOG...: "Linux: N passed, N failed, N skipped", and the skipped tests by name.
+summary() {
+    local label=$1
+    shift
+    cat "$@" 2> /dev/null | tr -d '\r' | awk -v label="$label" '
+        /^\[  PASSED  \] [0-9]+ test/ { passed += $4 }
+        /^\[  FAILED  \] [0-9]+ test/ { failed += $4 }
+        /^\[  SKIPPED \] [0-9]+ test/ { skipped += $4 }
+        /^\[  SKIPPED \] [A-Za-z]/ && NF == 4 && !seen[$4]++ { names = names "\n   skipped: " $4 }
+        END { printf "%s: %d passed, %d failed, %d skipped\n", label, passed, failed, skipped
+              if (names != "") print "  " label names }' > "build/logs/summary-$label.txt"
+}
+
+if ! install_packages $build_packages $test_packages; then
+    fail "Linux build: packages are missing"
+else
+    step "clang-format" format
+    step "page of the phrases" scripts/phrase_page.sh --check
+    if step "build for Linux with sanitizers" build linux-asan; then
+        echo "== tests on Linux"
+        for program in unit_tests object_model_tests native_tests system_tests; do
+            run_tests Linux "build/logs/linux-$program.log" "build/linux-asan/bin/$program"
+        done
+        step "nothing left among the temporary files" nothing_left
+        summary Linux build/logs/linux-*_tests.log
+        step "random inputs, 10 s for each parser" scripts/fuzz.sh build/linux-asan 10
+    fi
+fi
+
+# The 32-bit compiler is needed for the slow checks only.
+if ! install_packages $windows_packages; then
+    notes+=("skipped: every Windows test (install: apt-get install $windows_packages)")
+elif step "build for Windows, 64 bits" build windows-x86_64; then
+    if install_packages $wine_packages; then
+        step "a Wine prefix" scripts/wine.sh wineboot --init
+        echo "== tests under Wine"
+        for program in unit_tests object_model_tests native_tests system_tests; do
+            run_tests Wine "build/logs/wine-$program.log" scripts/wine.sh "build/windows-x86_64/bin/$program.exe"
+        done
+        summary Wine build/logs/wine-*_tests.log
+    else
+        notes+=("skipped: unit_tests, object_model_tests, native_tests and system_tests under Wine (install: apt-get install $wine_packages)")
+    fi
+fi
+
+if [ $slow = yes ]; then
+    step "long fault runs" env RF_SLOW_TESTS=1 build/linux-asan/bin/native_tests \
+        --gtest_filter='RulesAtWork.*:SqliteKill.*:RuleComparison.*'
+    if ! install_packages $fuzz_packages; then
+        notes+=("skipped: libFuzzer on $(cd tests/fuzz && echo *_fuzz.cpp) (install: apt-get install $fuzz_packages)")
+    elif step "build with libFuzzer" build linux-fuzz; then
+        step "libFuzzer, 120 s for each parser" scripts/fuzz.sh build/linux-fuzz 120
+    fi
+    if install_packages $tidy_packages; then
+        step "clang-tidy" scripts/tidy.sh build/linux-asan
+    else
+        notes+=("skipped: clang-tidy (install: apt-get install $tidy_packages)")
+    fi
+    if install_packages $windows32_packages; then
+        step "build for Windows, 32 bits" build windows-i686 &&
+            step "resources of the 32-bit program" env RF_PROGRAM_FILE="$PWD/build/windows-i686/bin/RFBookingInfo.exe" \
+                scripts/wine.sh build/windows-x86_64/bin/native_tests.exe --gtest_filter='ProgramFile.*'
+    else
+        notes+=("skipped: the 32-bit Windows build (install: apt-get install $windows32_packages)")
+    fi
+fi
+
+echo
+for label in Linux Wine; do
+    [ ! -f "build/logs/summary-$label.txt" ] || sed -n '2,$p' "build/logs/summary-$label.txt"
+done
+[ ${#notes[@]} -eq 0 ] || printf '%s\n' "${notes[@]}"
+for label in Linux Wine; do
+    [ ! -f "build/logs/summary-$label.txt" ] || sed -n '1p' "build/logs/summary-$label.txt"
+done
+if [ ${#failures[@]} -gt 0 ]; then
+    printf 'FAILED: %s\n' "${failures[@]}"
+    exit 1
+fi
+echo "All checks passed in $SECONDS s."
