@@ -1,0 +1,155 @@
+#include "host/folder.h"
+
+#include "host/entry_id.h"
+#include "host/host_error.h"
+#include "host/items.h"
+#include "host/model.h"
+#include "host/name_space.h"
+#include "outlook/constants.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace rf::host {
+
+using automation::Arguments;
+using automation::LocalMember;
+using automation::Variant;
+
+namespace {
+
+std::shared_ptr<automation::Dispatch> parentOf(const std::shared_ptr<Model>& model, const FolderRecord& record)
+{
+    if (record.parent == FolderId::None)
+        return std::make_shared<NameSpace>(model);
+    return std::make_shared<Folder>(model, record.parent);
+}
+
+std::int32_t itemTypeOf(std::int32_t defaultFolder, std::int32_t parentsType)
+{
+    switch (static_cast<outlook::DefaultFolder>(defaultFolder)) {
+    case outlook::DefaultFolder::Inbox:
+        return static_cast<std::int32_t>(outlook::ItemType::Mail);
+    case outlook::DefaultFolder::Calendar:
+        return static_cast<std::int32_t>(outlook::ItemType::Appointment);
+    }
+    if (defaultFolder == 0)
+        return parentsType;
+    throw hostError(host_error::badArgument, u"Folders of that type are not kept here.");
+}
+
+} // namespace
+
+FolderRecord Folder::record() const { return model_->folder(id_); }
+
+const void* Folder::identity() const { return model_->identityOf(id_); }
+
+void Folder::update(void (*change)(FolderRecord& record, const Variant& value), const Variant& value) const
+{
+    FolderRecord changed = record();
+    change(changed, value);
+    model_->store().updateFolder(changed);
+}
+
+std::span<const LocalMember<Folder>> Folder::members()
+{
+    using Self = Folder;
+    static constexpr std::array table{
+        LocalMember<Self>{u"Name", [](Self& self, const Arguments&) -> Variant { return self.record().name; },
+            [](Self& self, const Arguments& arguments) {
+                self.update(
+                    [](FolderRecord& folder, const Variant& value) { folder.name = value.text(); }, arguments.value());
+            }},
+        LocalMember<Self>{
+            u"EntryID", [](Self& self, const Arguments&) -> Variant { return entryIdOf(self.record().id); }},
+        LocalMember<Self>{u"StoreID",
+            [](Self& self, const Arguments&) -> Variant { return entryIdOf(self.model_->storeOf(self.id_).id); }},
+        LocalMember<Self>{
+            u"Parent", [](Self& self, const Arguments&) -> Variant { return parentOf(self.model_, self.record()); }},
+        LocalMember<Self>{u"Folders",
+            [](Self& self, const Arguments&) -> Variant { return std::make_shared<Folders>(self.model_, self.id_); }},
+        LocalMember<Self>{u"Items",
+            [](Self& self, const Arguments&) -> Variant { return Items::make(self.model_, self.record().id); }},
+        LocalMember<Self>{
+            u"DefaultItemType", [](Self& self, const Arguments&) -> Variant { return self.record().defaultItemType; }},
+        LocalMember<Self>{u"WebViewURL",
+            [](Self& self, const Arguments&) -> Variant { return self.record().webViewUrl; },
+            [](Self& self, const Arguments& arguments) {
+                self.update([](FolderRecord& folder, const Variant& value) { folder.webViewUrl = value.text(); },
+                    arguments.value());
+            }},
+        LocalMember<Self>{u"WebViewOn", [](Self& self, const Arguments&) -> Variant { return self.record().webViewOn; },
+            [](Self& self, const Arguments& arguments) {
+                self.update([](FolderRecord& folder, const Variant& value) { folder.webViewOn = value.boolean(); },
+                    arguments.value());
+            }},
+        LocalMember<Self>{
+            u"Application", [](Self& self, const Arguments&) -> Variant { return self.model_->application(); }},
+        LocalMember<Self>{u"Class",
+            [](Self&, const Arguments&) -> Variant { return static_cast<std::int32_t>(outlook::ObjectClass::Folder); }},
+        LocalMember<Self>{u"Delete",
+            [](Self& self, const Arguments&) -> Variant {
+                self.model_->store().removeFolder(self.id_);
+                self.model_->changed();
+                return {};
+            }},
+    };
+    return table;
+}
+
+std::vector<FolderRecord> Folders::children() const
+{
+    auto all = model_->folders();
+    std::erase_if(all, [&](const FolderRecord& record) { return record.parent != parent_; });
+    return all;
+}
+
+std::shared_ptr<Folder> Folders::item(const Variant& index) const
+{
+    const auto all = children();
+    auto found = all.end();
+    if (index.is<Text>()) {
+        found = std::ranges::find_if(
+            all, [&](const FolderRecord& record) { return equalIgnoringCase(record.name, index.text()); });
+    } else if (const auto position = index.integer32(); position >= 1 && std::cmp_less_equal(position, all.size())) {
+        found = all.begin() + (position - 1);
+    }
+    if (found == all.end())
+        throw hostError(host_error::notFound, u"The operation failed. An object could not be found.");
+    return std::make_shared<Folder>(model_, found->id);
+}
+
+std::shared_ptr<Folder> Folders::add(const Text& name, std::int32_t defaultFolder) const
+{
+    const auto all = children();
+    const bool taken
+        = std::ranges::any_of(all, [&](const FolderRecord& record) { return equalIgnoringCase(record.name, name); });
+    if (trim(name).empty() || taken)
+        throw hostError(host_error::badArgument, u"A folder needs a name that no other folder beside it has.");
+    if (parent_ == FolderId::None)
+        throw hostError(host_error::badArgument, u"Message stores are not made this way.");
+    FolderRecord record;
+    record.parent = parent_;
+    record.name = name;
+    record.defaultItemType = itemTypeOf(defaultFolder, model_->folder(parent_).defaultItemType);
+    return std::make_shared<Folder>(model_, model_->store().addFolder(record));
+}
+
+std::span<const LocalMember<Folders>> Folders::members()
+{
+    using Self = Folders;
+    static constexpr std::array table{
+        LocalMember<Self>{u"Count",
+            [](Self& self, const Arguments&) -> Variant { return static_cast<std::int32_t>(self.children().size()); }},
+        LocalMember<Self>{
+            u"Item", [](Self& self, const Arguments& arguments) -> Variant { return self.item(arguments[0]); }},
+        LocalMember<Self>{u"Add",
+            [](Self& self, const Arguments& arguments) -> Variant {
+                return self.add(arguments[0].text(), arguments.has(1) ? arguments[1].integer32() : 0);
+            }},
+    };
+    return table;
+}
+
+} // namespace rf::host

@@ -1,0 +1,221 @@
+#include "host/memory_store.h"
+
+#include <algorithm>
+
+namespace rf::host {
+namespace {
+
+[[noreturn]] void folderIsMissing() { throw StoreError{StoreFault::Missing, u"The folder is no longer in the store."}; }
+
+void fillIn(ItemRecord& item, const ItemRecord& kept)
+{
+    item.id = kept.id;
+    item.revision = kept.revision;
+    item.size = kept.size;
+}
+
+} // namespace
+
+MemoryStore::MemoryStore()
+    : writer_(randomWriter())
+{
+}
+
+std::vector<FolderRecord> MemoryStore::folders() const
+{
+    std::vector<FolderRecord> all;
+    all.reserve(folders_.size());
+    for (const auto& [id, folder] : folders_)
+        all.push_back(folder);
+    return parentsFirst(std::move(all));
+}
+
+std::optional<FolderRecord> MemoryStore::folder(FolderId folder) const
+{
+    const auto found = folders_.find(folder);
+    return found == folders_.end() ? std::nullopt : std::optional{found->second};
+}
+
+FolderId MemoryStore::addFolder(const FolderRecord& folder)
+{
+    if (folder.parent != FolderId::None)
+        requireFolder(folder.parent);
+    const FolderId id{++lastFolder_};
+    folders_[id] = folder;
+    folders_[id].id = id;
+    return id;
+}
+
+void MemoryStore::updateFolder(const FolderRecord& folder)
+{
+    requireFolder(folder.id);
+    for (FolderId above = folder.parent; above != FolderId::None; above = folders_[above].parent) {
+        requireFolder(above);
+        if (above == folder.id)
+            throw StoreError{StoreFault::Failed, u"A folder cannot lie inside itself."};
+    }
+    folders_[folder.id] = folder;
+}
+
+void MemoryStore::removeFolder(FolderId folder)
+{
+    requireFolder(folder);
+    std::vector<FolderId> below;
+    for (const auto& [id, record] : folders_) {
+        if (record.parent == folder)
+            below.push_back(id);
+    }
+    for (const FolderId each : below)
+        removeFolder(each);
+    for (const ItemId item : items(folder))
+        remove(item);
+    leases_.erase(folder);
+    folders_.erase(folder);
+}
+
+std::optional<ItemRecord> MemoryStore::read(ItemId item) const
+{
+    const auto found = items_.find(item);
+    return found == items_.end() ? std::nullopt : std::optional{found->second};
+}
+
+void MemoryStore::save(ItemRecord& item)
+{
+    if (item.id == ItemId::None) {
+        saveTogether({&item, 1});
+        return;
+    }
+    const auto found = items_.find(item.id);
+    if (found == items_.end())
+        throw StoreError{StoreFault::Missing, u"The item is no longer in the store."};
+    ItemRecord record = kept(item, item.id, found->second.revision + 1);
+    const FolderId before = found->second.folder;
+    fillIn(item, record);
+    found->second = std::move(record);
+    if (before == item.folder) {
+        log(ChangeKind::Changed, item.folder, item.id);
+    } else {
+        log(ChangeKind::Removed, before, item.id);
+        log(ChangeKind::Added, item.folder, item.id);
+    }
+}
+
+void MemoryStore::saveTogether(std::span<ItemRecord> items)
+{
+    std::vector<ItemRecord> records;
+    records.reserve(items.size());
+    std::map<FolderId, std::int32_t> arrived;
+    std::int64_t last = lastItem_;
+    for (const ItemRecord& item : items) {
+        records.push_back(kept(item, ItemId{++last}, 1));
+        ++arrived[item.folder];
+    }
+    lastItem_ = last;
+    for (std::size_t index = 0; index < items.size(); ++index) {
+        ItemRecord& record = records[index];
+        fillIn(items[index], record);
+        log(ChangeKind::Added, record.folder, record.id, arrived[record.folder]);
+        const ItemId id = record.id;
+        items_.emplace(id, std::move(record));
+    }
+}
+
+bool MemoryStore::remove(ItemId item)
+{
+    const auto found = items_.find(item);
+    if (found == items_.end())
+        return false;
+    log(ChangeKind::Removed, found->second.folder, item);
+    items_.erase(found);
+    return true;
+}
+
+std::size_t MemoryStore::count(FolderId folder) const
+{
+    return static_cast<std::size_t>(
+        std::ranges::count_if(items_, [folder](const auto& entry) { return entry.second.folder == folder; }));
+}
+
+std::vector<ItemId> MemoryStore::items(FolderId folder) const
+{
+    return itemsWhere(folder, [](const ItemRecord&) { return true; });
+}
+
+std::vector<ItemId> MemoryStore::overlapping(FolderId folder, Date from, Date to) const
+{
+    const std::int64_t first = orderedSeconds(from);
+    const std::int64_t last = orderedSeconds(to);
+    std::vector<ItemId> found = itemsWhere(folder, [first, last](const ItemRecord& item) {
+        const Stretch stretch = stretchOf(item);
+        return stretch.first <= last && stretch.last >= first;
+    });
+    std::ranges::stable_sort(found, {}, [this](ItemId item) { return orderedSeconds(items_.at(item).start); });
+    return found;
+}
+
+std::vector<ItemId> MemoryStore::withSubject(FolderId folder, TextView subject) const
+{
+    return itemsWhere(folder, [subject](const ItemRecord& item) { return equalIgnoringCase(item.subject, subject); });
+}
+
+std::vector<ItemId> MemoryStore::withProperty(FolderId folder, TextView name, TextView text) const
+{
+    return itemsWhere(
+        folder, [name, text](const ItemRecord& item) { return hasText(item.userProperties, name, text); });
+}
+
+std::int64_t MemoryStore::lastChange() const { return changes_.empty() ? 0 : changes_.back().sequence; }
+
+std::vector<Change> MemoryStore::changesAfter(std::int64_t sequence) const
+{
+    const auto next = std::ranges::upper_bound(changes_, sequence, {}, &Change::sequence);
+    return {next, changes_.end()};
+}
+
+bool MemoryStore::takeLease(FolderId folder, std::chrono::milliseconds duration, std::chrono::milliseconds)
+{
+    leases_[folder] = std::chrono::steady_clock::now() + duration;
+    return true;
+}
+
+bool MemoryStore::holdsLease(FolderId folder) const
+{
+    const auto found = leases_.find(folder);
+    return found != leases_.end() && std::chrono::steady_clock::now() < found->second;
+}
+
+void MemoryStore::giveUpLease(FolderId folder) { leases_.erase(folder); }
+
+void MemoryStore::requireFolder(FolderId folder) const
+{
+    if (!folders_.contains(folder))
+        folderIsMissing();
+}
+
+ItemRecord MemoryStore::kept(const ItemRecord& item, ItemId id, std::int64_t revision) const
+{
+    requireFolder(item.folder);
+    ItemRecord record = keptRecord(item);
+    record.id = id;
+    record.revision = revision;
+    record.size = sizeOf(record);
+    return record;
+}
+
+template <class Condition>
+std::vector<ItemId> MemoryStore::itemsWhere(FolderId folder, const Condition& condition) const
+{
+    std::vector<ItemId> found;
+    for (const auto& [id, item] : items_) {
+        if (item.folder == folder && condition(item))
+            found.push_back(id);
+    }
+    return found;
+}
+
+void MemoryStore::log(ChangeKind kind, FolderId folder, ItemId item, std::int32_t arrivedTogether)
+{
+    changes_.push_back({lastChange() + 1, kind, folder, item, arrivedTogether, writer_});
+}
+
+} // namespace rf::host

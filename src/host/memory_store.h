@@ -1,0 +1,60 @@
+#pragma once
+
+#include "host/store.h"
+
+#include <map>
+
+namespace rf::host {
+
+/// A store that lives as long as its object and belongs to one process: for tests, and where nothing is to be kept.
+/// Nobody competes for its leases, so each is granted.
+class MemoryStore final : public Store {
+public:
+    MemoryStore();
+
+    [[nodiscard]] std::vector<FolderRecord> folders() const override;
+    [[nodiscard]] std::optional<FolderRecord> folder(FolderId folder) const override;
+    FolderId addFolder(const FolderRecord& folder) override;
+    void updateFolder(const FolderRecord& folder) override;
+    void removeFolder(FolderId folder) override;
+
+    [[nodiscard]] std::optional<ItemRecord> read(ItemId item) const override;
+    void save(ItemRecord& item) override;
+    void saveTogether(std::span<ItemRecord> items) override;
+    bool remove(ItemId item) override;
+
+    [[nodiscard]] std::size_t count(FolderId folder) const override;
+    [[nodiscard]] std::vector<ItemId> items(FolderId folder) const override;
+    [[nodiscard]] std::vector<ItemId> overlapping(FolderId folder, Date from, Date to) const override;
+    [[nodiscard]] std::vector<ItemId> withSubject(FolderId folder, TextView subject) const override;
+    [[nodiscard]] std::vector<ItemId> withProperty(FolderId folder, TextView name, TextView text) const override;
+
+    [[nodiscard]] std::int64_t lastChange() const override;
+    [[nodiscard]] std::vector<Change> changesAfter(std::int64_t sequence) const override;
+    [[nodiscard]] std::int64_t writer() const override { return writer_; }
+
+    [[nodiscard]] bool takeLease(
+        FolderId folder, std::chrono::milliseconds duration, std::chrono::milliseconds limit) override;
+    [[nodiscard]] bool holdsLease(FolderId folder) const override;
+    void giveUpLease(FolderId folder) override;
+
+private:
+    using Instant = std::chrono::steady_clock::time_point;
+
+    void requireFolder(FolderId folder) const;
+    /// What is kept of an item that is to be written, complete with its revision and size.
+    [[nodiscard]] ItemRecord kept(const ItemRecord& item, ItemId id, std::int64_t revision) const;
+    template <class Condition>
+    [[nodiscard]] std::vector<ItemId> itemsWhere(FolderId folder, const Condition& condition) const;
+    void log(ChangeKind kind, FolderId folder, ItemId item, std::int32_t arrivedTogether = 1);
+
+    std::map<FolderId, FolderRecord> folders_;
+    std::map<ItemId, ItemRecord> items_;
+    std::vector<Change> changes_;
+    std::map<FolderId, Instant> leases_;
+    std::int64_t lastFolder_ = 0;
+    std::int64_t lastItem_ = 0;
+    std::int64_t writer_;
+};
+
+} // namespace rf::host

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "host/commands.h"
+
+#include <filesystem>
+
+namespace rf::native {
+
+struct ServeOptions {
+    /// Whose mailbox is the default one.
+    Text user;
+    /// The folder that the first window shows; the root folder of the calendar product when it is empty.
+    std::string folder;
+    /// The program that the home page starts; empty for none.
+    std::filesystem::path program;
+    /// Whether alerts are answered with the button that agrees, where no screen shows them.
+    bool acceptAlerts = false;
+};
+
+/// Serves the object model on the session bus until it is told to end by a signal or a program. The exit status.
+int serve(const host::CommandContext& context, const ServeOptions& options);
+
+} // namespace rf::native
