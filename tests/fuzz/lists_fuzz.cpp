@@ -1,0 +1,81 @@
+#include "basic/pattern_regional.h"
+#include "basic/runtime_error.h"
+#include "orders/supply_list.h"
+#include "orders/text_table.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+namespace rf {
+namespace {
+
+Text unitsOf(const std::uint8_t* bytes, std::size_t size)
+{
+    Text text;
+    for (std::size_t index = 0; index + 1 < size; index += 2) {
+        text += static_cast<char16_t>(bytes[index] | bytes[index + 1] << 8);
+    }
+    return text;
+}
+
+void require(bool condition)
+{
+    if (!condition) {
+        std::abort();
+    }
+}
+
+/// The text that a table was read from, as far as the table holds it.
+Text written(const TextTable& table)
+{
+    Text text;
+    for (std::size_t row = 0; row < table.rows(); ++row) {
+        for (std::size_t column = 0; column < table.columns(); ++column) {
+            text += (column == 0 ? u"" : u"\t") + table.cell(row, column);
+        }
+        text += lineBreak;
+    }
+    return text;
+}
+
+/// An orders text is read, or refused with the one error for it; what was read is written and read alike.
+void checkOrders(const Text& text, const Regional& regional)
+{
+    try {
+        const TextTable table = fncTextToArray(text);
+        const Text again = written(table);
+        require(written(fncTextToArray(again)) == again);
+        for (std::size_t row = 0; row < table.rows() && table.columns() > 1; ++row) {
+            static_cast<void>(regional.parseNumber(table.cell(row, 1)));
+        }
+    } catch (const RuntimeError& error) {
+        require(error.number() == error_number::subscriptOutOfRange);
+    }
+}
+
+/// A supply list loses nothing when it is written and read again.
+void checkSupplies(const Text& text, const Regional& regional)
+{
+    const auto supplies = readSupplyList(text, regional);
+    Text list;
+    for (const cSupplyItem& supply : supplies) {
+        list += supplyLine(supply, regional);
+    }
+    const auto again = readSupplyList(list, regional);
+    require(again.size() == supplies.size());
+    for (std::size_t index = 0; index < again.size(); ++index) {
+        require(again[index].ItemName == supplies[index].ItemName && again[index].Price == supplies[index].Price);
+    }
+}
+
+} // namespace
+} // namespace rf
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    static const rf::PatternRegional regional{rf::germanSettings()};
+    const rf::Text text = rf::unitsOf(bytes, size);
+    rf::checkOrders(text, regional);
+    rf::checkSupplies(text, regional);
+    return 0;
+}
