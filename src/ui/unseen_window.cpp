@@ -90,10 +90,9 @@ private:
 
 } // namespace
 
-Control& UnseenWindow::keep(std::unique_ptr<Control> control)
+void UnseenWindow::keep(std::unique_ptr<Control> control)
 {
     controls_.push_back(std::move(control));
-    return *controls_.back();
 }
 
 template <class Kind>

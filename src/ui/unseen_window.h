@@ -40,7 +40,7 @@ public:
     [[nodiscard]] const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
 
 protected:
-    Control& keep(std::unique_ptr<Control> control);
+    void keep(std::unique_ptr<Control> control);
 
 private:
     template <class Kind>
