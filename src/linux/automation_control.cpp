@@ -49,8 +49,10 @@ ui::AutomationControl* UnseenWindowWithControls::addAutomationControl(TextView c
     auto content = makeControlContent(className, regional_);
     if (content == nullptr)
         return nullptr;
-    return &static_cast<UnseenAutomationControl&>(
-        keep(std::make_unique<UnseenAutomationControl>(name, std::move(content))));
+    auto control = std::make_unique<UnseenAutomationControl>(name, std::move(content));
+    auto* const added = control.get();
+    keep(std::move(control));
+    return added;
 }
 
 } // namespace rf::native

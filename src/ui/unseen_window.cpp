@@ -90,10 +90,7 @@ private:
 
 } // namespace
 
-void UnseenWindow::keep(std::unique_ptr<Control> control)
-{
-    controls_.push_back(std::move(control));
-}
+void UnseenWindow::keep(std::unique_ptr<Control> control) { controls_.push_back(std::move(control)); }
 
 template <class Kind>
 Kind& UnseenWindow::add(std::unique_ptr<Kind> control)
