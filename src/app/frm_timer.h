@@ -19,6 +19,7 @@ public:
     /// Stops the timer.
     void unload() override;
 
+    [[nodiscard]] const ui::Timer& timTimer() const { return *timTimer_; }
     [[nodiscard]] bool TimerEnabled() const { return timTimer_->enabled(); }
     void setTimerEnabled(bool enabled) { timTimer_->setEnabled(enabled); }
     /// In milliseconds.

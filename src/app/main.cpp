@@ -32,7 +32,7 @@ bool takeTheField(Session& session)
 void startWatching(Session& session)
 {
     session.colAppItems.clear();
-    session.objInspectors = std::make_unique<cInspectors>(session);
+    session.objInspectors = std::make_unique<cInspectors>(session, OrdersForms{});
     session.objInspectors->setOuisInspectors(session.ouaApp.inspectors());
     session.forms.load(std::make_shared<frmDummy>(session));
     subGetRoot(session);
@@ -63,6 +63,10 @@ void runProgram(const Services& services)
 {
     Session session{services};
     Main(session);
+    // The selected calendars are watched from the start: what comes into them before the timer first ticks would be
+    // heard of by nobody.
+    if (const auto form = hiddenForm(session))
+        form->timCheckSelected_Timer();
     services.toolkit.run([&] { return session.forms.count() > 0; });
 }
 

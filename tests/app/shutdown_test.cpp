@@ -171,18 +171,5 @@ TEST_F(Shutdown, EndsTheProgramThoughAFormFailsToUnload)
     EXPECT_THROW(subEndProgram(session), ProgramEnded);
 }
 
-TEST(TimerForm, PassesItsSettingsToItsTimerAndRaisesItsTicks)
-{
-    test::RecordingToolkit toolkit;
-    frmTimer form{toolkit};
-    form.setTimerInterval(750);
-    EXPECT_EQ(form.TimerInterval(), 750);
-    EXPECT_FALSE(form.TimerEnabled());
-    form.setTimerEnabled(true);
-    EXPECT_TRUE(form.TimerEnabled());
-    form.unload();
-    EXPECT_FALSE(form.TimerEnabled());
-}
-
 } // namespace
 } // namespace rf
