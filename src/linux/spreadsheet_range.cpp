@@ -208,6 +208,11 @@ std::span<const LocalMember<RangeObject>> RangeObject::members()
                 const Area whole{{1, self.area().first.column}, {rowLimit, self.area().last.column}};
                 return Variant{std::make_shared<Self>(self.shared(), whole, Counted::Columns)};
             }},
+        {u"EntireRow",
+            [](Self& self, const Arguments&) {
+                const Area whole{{self.area().first.row, 1}, {self.area().last.row, columnLimit}};
+                return Variant{std::make_shared<Self>(self.shared(), whole, Counted::Rows)};
+            }},
         {u"Value",
             [](Self& self, const Arguments&) {
                 return self.values([](const Sheet& sheet, Cell cell) { return sheet.value(cell); });

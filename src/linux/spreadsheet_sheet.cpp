@@ -2,6 +2,7 @@
 
 #include "automation/conversion.h"
 #include "linux/spreadsheet_number_format.h"
+#include "linux/spreadsheet_reference.h"
 
 #include <cmath>
 
@@ -151,7 +152,7 @@ Sheet::Outcome Sheet::setFormula(const Area& area, TextView formula)
         return Outcome::Locked;
     auto outcome = Outcome::Done;
     forCells(area, [&](Cell cell) {
-        const Text text{formula.substr(1)};
+        const Text text = movedBy(formula.substr(1), {cell.row - area.first.row, cell.column - area.first.column});
         if (outcome == Outcome::Done && calculator_.setFormula(cell, text)) {
             contents_[cell] = {{}, text};
             return;

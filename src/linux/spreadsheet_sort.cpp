@@ -1,7 +1,7 @@
+#include "linux/spreadsheet_reference.h"
 #include "linux/spreadsheet_sheet.h"
 
 #include <numeric>
-#include <regex>
 
 namespace rf::native::spreadsheet {
 
@@ -33,24 +33,6 @@ int compare(const Variant& left, const Variant& right)
     const double difference = rank == 2 ? static_cast<double>(left.boolean()) - static_cast<double>(right.boolean())
                                         : numberIn(left) - numberIn(right);
     return difference < 0 ? -1 : difference > 0 ? 1 : 0;
-}
-
-/// A formula speaks of cells beside it; in another row it speaks of those there. Rows with a "$" stay.
-Text movedBy(const Text& formula, std::int32_t rows)
-{
-    static const std::regex reference{R"(([$]?[A-Za-z]{1,2})([0-9]{1,5})(?![A-Za-z0-9(]))"};
-    const std::string text = toUtf8(formula);
-    std::string moved;
-    auto rest = text.begin();
-    for (std::sregex_iterator found{text.begin(), text.end(), reference}, end; found != end; ++found) {
-        const bool quoted = std::count(text.begin(), (*found)[0].first, '"') % 2 == 1;
-        moved.append(rest, (*found)[2].first);
-        const std::int32_t row = std::stoi((*found)[2].str()) + (quoted ? 0 : rows);
-        moved += row >= 1 ? std::to_string(row) : (*found)[2].str();
-        rest = (*found)[0].second;
-    }
-    moved.append(rest, text.end());
-    return fromUtf8(moved);
 }
 
 } // namespace
@@ -89,7 +71,7 @@ bool Sheet::sort(const Area& area, std::int32_t column, Order order, bool header
         for (auto entry = contents_.lower_bound({row, data.first.column});
              entry != contents_.end() && entry->first.row == row && entry->first.column <= data.last.column; ++entry) {
             Content content = entry->second;
-            content.formula = movedBy(content.formula, target - row);
+            content.formula = movedBy(content.formula, {target - row, 0});
             moved[{target, entry->first.column}] = std::move(content);
         }
         ++target;

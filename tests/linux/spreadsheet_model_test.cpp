@@ -156,6 +156,20 @@ TEST_F(SpreadsheetModel, KnowsRangesByTheirAddress)
         EXPECT_EQ(failureNumber([&] { static_cast<void>(control.at(bad)); }), 1004) << toUtf8(bad);
 }
 
+TEST_F(SpreadsheetModel, FillsARangeWithAFormulaThatSpeaksOfItsFirstCell)
+{
+    control.put(u"B2:C4", automation::Array{{{1, 3}, {1, 2}}, {1, 2, 3, 4, 5, 6}});
+    control.at(u"D2:D4").setFormula(u"=B2*C2");
+    EXPECT_EQ(control.value(u"D2:D4").array()->values, (std::vector<Variant>{2.0, 12.0, 30.0}));
+    EXPECT_EQ(control.at(u"D4").formula(), Variant{u"=B4*C4"});
+}
+
+TEST_F(SpreadsheetModel, GivesTheRowsOfARangeAsAWhole)
+{
+    EXPECT_EQ(control.at(u"B3:C5").entireRow().address(), u"$3:$5");
+    EXPECT_EQ(control.at(u"B3:C5").entireRow().count(), 3);
+}
+
 TEST_F(SpreadsheetModel, SortsARangeByItsFirstColumn)
 {
     const auto& constants = control.object.constants();
