@@ -99,6 +99,10 @@ public:
     {
         return face<SpreadsheetRange>(object().get({u"EntireColumn", where}), where);
     }
+    [[nodiscard]] SpreadsheetRange entireRow(Where where = Where::current()) const
+    {
+        return face<SpreadsheetRange>(object().get({u"EntireRow", where}), where);
+    }
 
     /// One value, or a two-dimensional array for several cells.
     [[nodiscard]] Variant value(Where where = Where::current()) const { return object().get({u"Value", where}); }

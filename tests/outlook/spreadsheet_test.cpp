@@ -141,6 +141,7 @@ TEST(SpreadsheetRangeFace, UsesTheMembersOfTheControl)
         {u"Rows", Get, {}, other, [](auto& range) { return range.rows(); }},
         {u"Columns", Get, {}, other, [](auto& range) { return range.columns(); }},
         {u"EntireColumn", Get, {}, other, [](auto& range) { return range.entireColumn(); }},
+        {u"EntireRow", Get, {}, other, [](auto& range) { return range.entireRow(); }},
         {u"Value", Get, {}, 12.5, [](auto& range) { return range.value(); }},
         {u"Value", Put, {u"Coffee"}, {}, [](auto& range) { range.setValue(u"Coffee"); }},
         {u"Formula", Get, {}, u"=B2*C2", [](auto& range) { return range.formula(); }},
