@@ -60,7 +60,7 @@ protected:
     }
     std::shared_ptr<host::Inspector> open(const std::shared_ptr<automation::Dispatch>& item) const
     {
-        const auto window = host->model().inspectors().windowOf(host::itemOf(item));
+        auto window = host->model().inspectors().windowOf(host::itemOf(item));
         window->display();
         return window;
     }

@@ -1,3 +1,4 @@
+#include "app/selection_watch.h"
 #include "basic/pattern_regional.h"
 #include "basic/runtime_error.h"
 #include "orders/supply_list.h"
@@ -68,6 +69,17 @@ void checkSupplies(const Text& text, const Regional& regional)
     }
 }
 
+/// The names of a selection file are lines, none of them empty, and name the same calendars when they are written
+/// again.
+void checkSelection(const Text& text)
+{
+    const auto names = fncSelectedNames(text);
+    for (const Text& name : names) {
+        require(!name.empty() && name.find(lineBreak) == Text::npos);
+    }
+    require(fncSelectedNames(join(names, lineBreak)) == names);
+}
+
 } // namespace
 } // namespace rf
 
@@ -77,5 +89,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const rf::Text text = rf::unitsOf(bytes, size);
     rf::checkOrders(text, regional);
     rf::checkSupplies(text, regional);
+    rf::checkSelection(text);
     return 0;
 }
