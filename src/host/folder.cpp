@@ -7,7 +7,6 @@
 #include "host/name_space.h"
 #include "outlook/constants.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -98,34 +97,26 @@ std::span<const LocalMember<Folder>> Folder::members()
     return table;
 }
 
-std::vector<FolderRecord> Folders::children() const
+std::optional<FolderId> Folders::find(const Variant& index) const
 {
-    auto all = model_->folders();
-    std::erase_if(all, [&](const FolderRecord& record) { return record.parent != parent_; });
-    return all;
+    const Store& store = model_->store();
+    if (index.is<Text>())
+        return store.folderNamed(parent_, index.text());
+    const auto position = index.integer32();
+    return position < 1 ? std::nullopt : store.folderAt(parent_, static_cast<std::size_t>(position) - 1);
 }
 
 std::shared_ptr<Folder> Folders::item(const Variant& index) const
 {
-    const auto all = children();
-    auto found = all.end();
-    if (index.is<Text>()) {
-        found = std::ranges::find_if(
-            all, [&](const FolderRecord& record) { return equalIgnoringCase(record.name, index.text()); });
-    } else if (const auto position = index.integer32(); position >= 1 && std::cmp_less_equal(position, all.size())) {
-        found = all.begin() + (position - 1);
-    }
-    if (found == all.end())
+    const auto found = find(index);
+    if (!found)
         throw hostError(host_error::notFound, u"The operation failed. An object could not be found.");
-    return std::make_shared<Folder>(model_, found->id);
+    return std::make_shared<Folder>(model_, *found);
 }
 
 std::shared_ptr<Folder> Folders::add(const Text& name, std::int32_t defaultFolder) const
 {
-    const auto all = children();
-    const bool taken
-        = std::ranges::any_of(all, [&](const FolderRecord& record) { return equalIgnoringCase(record.name, name); });
-    if (trim(name).empty() || taken)
+    if (trim(name).empty() || model_->store().folderNamed(parent_, name))
         throw hostError(host_error::badArgument, u"A folder needs a name that no other folder beside it has.");
     if (parent_ == FolderId::None)
         throw hostError(host_error::badArgument, u"Message stores are not made this way.");
@@ -141,7 +132,9 @@ std::span<const LocalMember<Folders>> Folders::members()
     using Self = Folders;
     static constexpr std::array table{
         LocalMember<Self>{u"Count",
-            [](Self& self, const Arguments&) -> Variant { return static_cast<std::int32_t>(self.children().size()); }},
+            [](Self& self, const Arguments&) -> Variant {
+                return static_cast<std::int32_t>(self.model_->store().countFolders(self.parent_));
+            }},
         LocalMember<Self>{
             u"Item", [](Self& self, const Arguments& arguments) -> Variant { return self.item(arguments[0]); }},
         LocalMember<Self>{u"Add",

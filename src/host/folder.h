@@ -51,7 +51,7 @@ public:
     [[nodiscard]] static std::span<const automation::LocalMember<Folders>> members();
 
 private:
-    [[nodiscard]] std::vector<FolderRecord> children() const;
+    [[nodiscard]] std::optional<FolderId> find(const automation::Variant& index) const;
     /// By position from 1 up or by name in any case; error `notFound` when there is none.
     [[nodiscard]] std::shared_ptr<Folder> item(const automation::Variant& index) const;
     /// A new folder for the items of a default folder's kind, or of its parent's. Error `badArgument` when the name is

@@ -36,6 +36,22 @@ std::optional<FolderRecord> MemoryStore::folder(FolderId folder) const
     return found == folders_.end() ? std::nullopt : std::optional{found->second};
 }
 
+std::size_t MemoryStore::countFolders(FolderId parent) const { return foldersIn(parent).size(); }
+
+std::optional<FolderId> MemoryStore::folderAt(FolderId parent, std::size_t position) const
+{
+    const auto all = foldersIn(parent);
+    return position < all.size() ? std::optional{all[position]} : std::nullopt;
+}
+
+std::optional<FolderId> MemoryStore::folderNamed(FolderId parent, TextView name) const
+{
+    const auto all = foldersIn(parent);
+    const auto found
+        = std::ranges::find_if(all, [&](FolderId folder) { return equalIgnoringCase(folders_.at(folder).name, name); });
+    return found == all.end() ? std::nullopt : std::optional{*found};
+}
+
 FolderId MemoryStore::addFolder(const FolderRecord& folder)
 {
     if (folder.parent != FolderId::None)
@@ -43,6 +59,7 @@ FolderId MemoryStore::addFolder(const FolderRecord& folder)
     const FolderId id{++lastFolder_};
     folders_[id] = folder;
     folders_[id].id = id;
+    keepInOrder(id, folder.parent);
     return id;
 }
 
@@ -54,22 +71,21 @@ void MemoryStore::updateFolder(const FolderRecord& folder)
         if (above == folder.id)
             throw StoreError{StoreFault::Failed, u"A folder cannot lie inside itself."};
     }
+    std::erase(below_[folders_[folder.id].parent], folder.id);
+    keepInOrder(folder.id, folder.parent);
     folders_[folder.id] = folder;
 }
 
 void MemoryStore::removeFolder(FolderId folder)
 {
     requireFolder(folder);
-    std::vector<FolderId> below;
-    for (const auto& [id, record] : folders_) {
-        if (record.parent == folder)
-            below.push_back(id);
-    }
-    for (const FolderId each : below)
-        removeFolder(each);
+    while (const auto below = folderAt(folder, 0))
+        removeFolder(*below);
     for (const ItemId item : items(folder))
         remove(item);
     leases_.erase(folder);
+    below_.erase(folder);
+    std::erase(below_[folders_[folder].parent], folder);
     folders_.erase(folder);
 }
 
@@ -91,7 +107,8 @@ void MemoryStore::save(ItemRecord& item)
     ItemRecord record = kept(item, item.id, found->second.revision + 1);
     const FolderId before = found->second.folder;
     fillIn(item, record);
-    found->second = std::move(record);
+    forget(found->second);
+    keep(std::move(record));
     if (before == item.folder) {
         log(ChangeKind::Changed, item.folder, item.id);
     } else {
@@ -115,8 +132,7 @@ void MemoryStore::saveTogether(std::span<ItemRecord> items)
         ItemRecord& record = records[index];
         fillIn(items[index], record);
         log(ChangeKind::Added, record.folder, record.id, arrived[record.folder]);
-        const ItemId id = record.id;
-        items_.emplace(id, std::move(record));
+        keep(std::move(record));
     }
 }
 
@@ -126,6 +142,7 @@ bool MemoryStore::remove(ItemId item)
     if (found == items_.end())
         return false;
     log(ChangeKind::Removed, found->second.folder, item);
+    forget(found->second);
     items_.erase(found);
     return true;
 }
@@ -155,7 +172,8 @@ std::vector<ItemId> MemoryStore::overlapping(FolderId folder, Date from, Date to
 
 std::vector<ItemId> MemoryStore::withSubject(FolderId folder, TextView subject) const
 {
-    return itemsWhere(folder, [subject](const ItemRecord& item) { return equalIgnoringCase(item.subject, subject); });
+    const auto found = bySubject_.find({folder, upper(subject)});
+    return found == bySubject_.end() ? std::vector<ItemId>{} : std::vector(found->second.begin(), found->second.end());
 }
 
 std::vector<ItemId> MemoryStore::withProperty(FolderId folder, TextView name, TextView text) const
@@ -190,6 +208,35 @@ void MemoryStore::requireFolder(FolderId folder) const
 {
     if (!folders_.contains(folder))
         folderIsMissing();
+}
+
+std::span<const FolderId> MemoryStore::foldersIn(FolderId parent) const
+{
+    const auto found = below_.find(parent);
+    return found == below_.end() ? std::span<const FolderId>{} : std::span<const FolderId>{found->second};
+}
+
+void MemoryStore::keepInOrder(FolderId folder, FolderId parent)
+{
+    auto& siblings = below_[parent];
+    siblings.insert(std::ranges::upper_bound(siblings, folder), folder);
+}
+
+MemoryStore::Subject MemoryStore::subjectOf(const ItemRecord& item) { return {item.folder, upper(item.subject)}; }
+
+void MemoryStore::keep(ItemRecord item)
+{
+    bySubject_[subjectOf(item)].insert(item.id);
+    const ItemId id = item.id;
+    items_.insert_or_assign(id, std::move(item));
+}
+
+void MemoryStore::forget(const ItemRecord& item)
+{
+    const auto found = bySubject_.find(subjectOf(item));
+    found->second.erase(item.id);
+    if (found->second.empty())
+        bySubject_.erase(found);
 }
 
 ItemRecord MemoryStore::kept(const ItemRecord& item, ItemId id, std::int64_t revision) const

@@ -3,6 +3,8 @@
 #include "host/store.h"
 
 #include <map>
+#include <set>
+#include <utility>
 
 namespace rf::host {
 
@@ -14,6 +16,9 @@ public:
 
     [[nodiscard]] std::vector<FolderRecord> folders() const override;
     [[nodiscard]] std::optional<FolderRecord> folder(FolderId folder) const override;
+    [[nodiscard]] std::size_t countFolders(FolderId parent) const override;
+    [[nodiscard]] std::optional<FolderId> folderAt(FolderId parent, std::size_t position) const override;
+    [[nodiscard]] std::optional<FolderId> folderNamed(FolderId parent, TextView name) const override;
     FolderId addFolder(const FolderRecord& folder) override;
     void updateFolder(const FolderRecord& folder) override;
     void removeFolder(FolderId folder) override;
@@ -41,7 +46,14 @@ public:
 private:
     using Instant = std::chrono::steady_clock::time_point;
 
+    using Subject = std::pair<FolderId, Text>;
+
     void requireFolder(FolderId folder) const;
+    [[nodiscard]] std::span<const FolderId> foldersIn(FolderId parent) const;
+    void keepInOrder(FolderId folder, FolderId parent);
+    [[nodiscard]] static Subject subjectOf(const ItemRecord& item);
+    void keep(ItemRecord item);
+    void forget(const ItemRecord& item);
     /// What is kept of an item that is to be written, complete with its revision and size.
     [[nodiscard]] ItemRecord kept(const ItemRecord& item, ItemId id, std::int64_t revision) const;
     template <class Condition>
@@ -49,7 +61,9 @@ private:
     void log(ChangeKind kind, FolderId folder, ItemId item, std::int32_t arrivedTogether = 1);
 
     std::map<FolderId, FolderRecord> folders_;
+    std::map<FolderId, std::vector<FolderId>> below_;
     std::map<ItemId, ItemRecord> items_;
+    std::map<Subject, std::set<ItemId>> bySubject_;
     std::vector<Change> changes_;
     std::map<FolderId, Instant> leases_;
     std::int64_t lastFolder_ = 0;

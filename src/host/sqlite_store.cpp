@@ -13,6 +13,10 @@ constexpr Sql readFolders{R"(SELECT id, coalesce(parent, 0), role, name, item_ty
     FROM folder ORDER BY id)"};
 constexpr Sql readFolder{R"(SELECT id, coalesce(parent, 0), role, name, item_type, web_view_url, web_view_on, fields
     FROM folder WHERE id = ?1)"};
+// "IS" finds the stores too, whose parent is no folder.
+constexpr Sql countFoldersIn{"SELECT count(*) FROM folder WHERE parent IS nullif(?1, 0)"};
+constexpr Sql readFolderAt{"SELECT id FROM folder WHERE parent IS nullif(?1, 0) ORDER BY id LIMIT 1 OFFSET ?2"};
+constexpr Sql readFolderNames{"SELECT id, name FROM folder WHERE parent IS nullif(?1, 0) ORDER BY id"};
 constexpr Sql insertFolder{R"(INSERT INTO folder(parent, role, name, item_type, web_view_url, web_view_on, fields)
     VALUES(nullif(?1, 0), ?2, ?3, ?4, ?5, ?6, ?7))"};
 constexpr Sql updateFolderRow{R"(UPDATE folder SET parent = nullif(?1, 0), role = ?2, name = ?3, item_type = ?4,
@@ -109,6 +113,30 @@ std::optional<FolderRecord> SqliteStore::folder(FolderId folder) const
 {
     Query query{*database_, readFolder};
     return query.bind(folder).next() ? std::optional{folderOf(*database_, query)} : std::nullopt;
+}
+
+std::size_t SqliteStore::countFolders(FolderId parent) const
+{
+    Query query{*database_, countFoldersIn};
+    return query.bind(parent).next() ? static_cast<std::size_t>(query.integer(0)) : 0;
+}
+
+std::optional<FolderId> SqliteStore::folderAt(FolderId parent, std::size_t position) const
+{
+    Query query{*database_, readFolderAt};
+    query.bind(parent).bind(static_cast<std::int64_t>(position));
+    return query.next() ? std::optional{FolderId{query.integer(0)}} : std::nullopt;
+}
+
+std::optional<FolderId> SqliteStore::folderNamed(FolderId parent, TextView name) const
+{
+    Query query{*database_, readFolderNames};
+    query.bind(parent);
+    while (query.next()) {
+        if (equalIgnoringCase(query.text(1), name))
+            return FolderId{query.integer(0)};
+    }
+    return std::nullopt;
 }
 
 FolderId SqliteStore::addFolder(const FolderRecord& folder)

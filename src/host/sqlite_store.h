@@ -19,6 +19,9 @@ public:
 
     [[nodiscard]] std::vector<FolderRecord> folders() const override;
     [[nodiscard]] std::optional<FolderRecord> folder(FolderId folder) const override;
+    [[nodiscard]] std::size_t countFolders(FolderId parent) const override;
+    [[nodiscard]] std::optional<FolderId> folderAt(FolderId parent, std::size_t position) const override;
+    [[nodiscard]] std::optional<FolderId> folderNamed(FolderId parent, TextView name) const override;
     FolderId addFolder(const FolderRecord& folder) override;
     void updateFolder(const FolderRecord& folder) override;
     void removeFolder(FolderId folder) override;

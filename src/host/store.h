@@ -40,6 +40,12 @@ public:
     [[nodiscard]] virtual std::vector<FolderRecord> folders() const = 0;
     /// Nothing when the folder is gone. What it costs does not grow with the number of folders.
     [[nodiscard]] virtual std::optional<FolderRecord> folder(FolderId folder) const = 0;
+    /// How many folders lie in a folder, or how many message stores there are in none.
+    [[nodiscard]] virtual std::size_t countFolders(FolderId parent) const = 0;
+    /// The folder at that position, from 0 up, of those in a folder, in the order in which they were made.
+    [[nodiscard]] virtual std::optional<FolderId> folderAt(FolderId parent, std::size_t position) const = 0;
+    /// The oldest folder of that name, in any case, of those in a folder.
+    [[nodiscard]] virtual std::optional<FolderId> folderNamed(FolderId parent, TextView name) const = 0;
     /// Adds a folder; its `id` is ignored. `Missing` when its parent is gone.
     virtual FolderId addFolder(const FolderRecord& folder) = 0;
     /// Replaces everything but the id. `Missing` when the folder or its parent is gone, `Failed` when the parent lies

@@ -53,6 +53,45 @@ TEST_P(StoreSuite, NamesParentsBeforeTheirChildrenAndSiblingsInTheOrderOfTheirMa
     EXPECT_EQ(order, (std::vector{room(), other, second, first}));
 }
 
+TEST_P(StoreSuite, AnswersForTheFoldersInOneFolder)
+{
+    const FolderId first = store().addFolder(calendar(u"First", room()));
+    const FolderId second = store().addFolder(calendar(u"Second", room()));
+    store().addFolder(calendar(u"Deeper", second));
+
+    EXPECT_EQ(store().countFolders(room()), 2U);
+    EXPECT_EQ(store().folderAt(room(), 0), first);
+    EXPECT_EQ(store().folderAt(room(), 1), second);
+    EXPECT_EQ(store().folderAt(room(), 2), std::nullopt);
+    EXPECT_EQ(store().folderNamed(room(), u"SECOND"), second);
+    EXPECT_EQ(store().folderNamed(room(), u"Deeper"), std::nullopt);
+    store().removeFolder(first);
+    EXPECT_EQ(store().countFolders(room()), 1U);
+    EXPECT_EQ(store().folderAt(room(), 0), second);
+}
+
+TEST_P(StoreSuite, AnswersForTheMessageStoresAsForTheFoldersInNone)
+{
+    const FolderId other = store().addFolder(calendar(u"Other"));
+
+    EXPECT_EQ(store().countFolders(FolderId::None), 2U);
+    EXPECT_EQ(store().folderAt(FolderId::None, 1), other);
+    EXPECT_EQ(store().folderNamed(FolderId::None, u"other"), other);
+}
+
+TEST_P(StoreSuite, CountsAMovedFolderWhereItLiesNow)
+{
+    const FolderId first = store().addFolder(calendar(u"First", room()));
+    const FolderId other = store().addFolder(calendar(u"Other"));
+    store().addFolder(calendar(u"Younger", other));
+    FolderRecord moved = calendar(u"First", other);
+    moved.id = first;
+    store().updateFolder(moved);
+
+    EXPECT_EQ(store().countFolders(room()), 0U);
+    EXPECT_EQ(store().folderAt(other, 0), first);
+}
+
 TEST_P(StoreSuite, ReplacesEverythingOfAFolder)
 {
     FolderRecord folder = calendar(u"Renamed");

@@ -19,6 +19,18 @@ TEST_P(StoreSuite, FindsASubjectInAnyCaseOldestFirst)
     EXPECT_TRUE(store().withSubject(room(), u"").empty());
 }
 
+TEST_P(StoreSuite, FindsAnItemByTheSubjectItHasNow)
+{
+    ItemRecord item = saved(u"Before");
+    item.subject = u"After";
+    store().save(item);
+
+    EXPECT_TRUE(store().withSubject(room(), u"before").empty());
+    EXPECT_EQ(store().withSubject(room(), u"AFTER"), std::vector{item.id});
+    store().remove(item.id);
+    EXPECT_TRUE(store().withSubject(room(), u"After").empty());
+}
+
 TEST_P(StoreSuite, TellsLongTextsApartThatBeginAlike)
 {
     const Text alike(5000, u'x');
