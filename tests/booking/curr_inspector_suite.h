@@ -429,6 +429,22 @@ TEST_P(AppointmentWindow, SavingADoubleBookingWithOkChosenStaysOpenAndNothingIsS
     EXPECT_EQ(stored(room).size(), 2U);
 }
 
+TEST_P(AppointmentWindow, ThatIsClosedWithSavingADoubleBookingAsksOnce)
+{
+    forbidDoubles();
+    windows.answer = ok;
+    const auto window = openFilled(u"Second", at(9, 30), 60);
+    window->close(host::CloseMode::Save);
+    EXPECT_EQ(windows.alerts.size(), 1U);
+    EXPECT_FALSE(window->isClosed());
+    windows.answer = cancel;
+    window->close(host::CloseMode::Save);
+    EXPECT_EQ(windows.alerts.size(), 2U);
+    EXPECT_TRUE(window->isClosed());
+    EXPECT_TRUE(window->item().isDeleted());
+    EXPECT_EQ(only(room).subject, u"First");
+}
+
 TEST_P(AppointmentWindow, OfARefusedBookingThatWasThrownAwayIsDroppedByTheNextTick)
 {
     forbidDoubles();
