@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <algorithm>
 
 namespace rf::native {
 
@@ -31,6 +32,15 @@ int roomIn(const QWidget& widget, QStyle::SubElement contents)
     QStyleOptionButton option;
     option.initFrom(&widget);
     return widget.style()->subElementRect(contents, &option, &widget).width();
+}
+
+/// The Tab key reaches the chosen one of several buttons; Qt sees to that only once one of them has had the focus.
+void leadTabToChosen(const QWidget& form)
+{
+    const auto buttons = form.findChildren<QRadioButton*>(QString{}, Qt::FindDirectChildrenOnly);
+    const bool anyChosen = std::ranges::any_of(buttons, &QRadioButton::isChecked);
+    for (QRadioButton* button : buttons)
+        button->setFocusPolicy(!anyChosen || button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 } // namespace
@@ -77,6 +87,7 @@ void QtOptionButton::setValue(bool chosen)
     face().setAutoExclusive(chosen);
     face().setChecked(chosen);
     face().setAutoExclusive(true);
+    leadTabToChosen(*face().parentWidget());
 }
 
 bool QtOptionButton::captionFits() const

@@ -2,6 +2,7 @@
 
 #include "linux/form_controls.h"
 
+#include <algorithm>
 #include <limits>
 #include <set>
 
@@ -73,6 +74,9 @@ QChar freeLetter(const QString& caption, std::set<QChar>& taken)
     return {};
 }
 
+/// The part of a control that has the keys.
+QWidget& takesKeys(QWidget& widget) { return widget.focusProxy() == nullptr ? widget : *widget.focusProxy(); }
+
 } // namespace
 
 void nameByLabels(const FormControls& controls)
@@ -88,6 +92,20 @@ void nameByLabels(const FormControls& controls)
         if (label != nullptr)
             label->setBuddy(&control->widget());
     }
+}
+
+void orderByPlace(const FormControls& controls)
+{
+    std::vector<FormControl*> sorted;
+    for (const auto& control : controls)
+        if (takesKeys(control->widget()).focusPolicy() != Qt::NoFocus)
+            sorted.push_back(control.get());
+    std::ranges::stable_sort(sorted, {}, [](FormControl* control) {
+        const ui::Bounds bounds = control->control().bounds();
+        return std::pair{bounds.top, bounds.left};
+    });
+    for (std::size_t index = 1; index < sorted.size(); ++index)
+        QWidget::setTabOrder(&takesKeys(sorted[index - 1]->widget()), &takesKeys(sorted[index]->widget()));
 }
 
 void chooseMnemonics(const FormControls& controls)

@@ -159,6 +159,7 @@ ui::WindowHandle QtFormWindow::handle() const { return dialog_->winId(); }
 void QtFormWindow::prepare()
 {
     nameByLabels(controls_);
+    orderByPlace(controls_);
     chooseMnemonics(controls_);
 }
 

@@ -62,6 +62,20 @@ TEST_F(FormWindow, GoesThroughItsControlsInTheirOrder)
             u"txtBooker", u"optPlaceSetting1", u"optPlaceSetting2", u"txtOrderComment", u"cmdOK", u"cmdCancel"}));
 }
 
+TEST_F(FormWindow, GoesToTheChosenOptionAndFromTopToBottom)
+{
+    ui::TextBox& late = window->addTextBox(u"txtLate", {120, 460, 3000, 30}, ui::LineBreaks::No);
+    block.setValue(true);
+    appear(*window);
+    booker.setFocus();
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), late.name());
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), u"optPlaceSetting2");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), u"txtOrderComment");
+}
+
 TEST_F(FormWindow, PressesTheDefaultButtonOnEnterAndTheCancelButtonOnEscape)
 {
     appear(*window);
