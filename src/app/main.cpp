@@ -10,6 +10,7 @@
 #include "booking/app_items.h"
 #include "booking/inspectors.h"
 #include "booking/root_lookup.h"
+#include "orders/frm_orders2k.h"
 #include "storage/settings.h"
 
 namespace rf {
@@ -32,7 +33,9 @@ bool takeTheField(Session& session)
 void startWatching(Session& session)
 {
     session.colAppItems.clear();
-    session.objInspectors = std::make_unique<cInspectors>(session, OrdersForms{});
+    session.objInspectors = std::make_unique<cInspectors>(session, [&session](const outlook::AppointmentItem& item) {
+        return std::make_shared<orders::frmOrders2K>(session, item);
+    });
     session.objInspectors->setOuisInspectors(session.ouaApp.inspectors());
     session.forms.load(std::make_shared<frmDummy>(session));
     subGetRoot(session);

@@ -3,6 +3,7 @@
 #include "outlook/constants.h"
 #include "outlook/parent.h"
 #include "outlook/user_properties.h"
+#include "outlook/window.h"
 
 namespace rf::outlook {
 
@@ -19,6 +20,11 @@ public:
     [[nodiscard]] Parent parent(Where where = Where::current()) const
     {
         return face<Parent>(object().get({u"Parent", where}), where);
+    }
+    /// The window of the item, which is made when there is none; it is not on the screen then.
+    [[nodiscard]] Window getInspector(Where where = Where::current()) const
+    {
+        return face<Window>(object().get({u"GetInspector", where}), where);
     }
     [[nodiscard]] ObjectClass objectClass(Where where = Where::current()) const
     {

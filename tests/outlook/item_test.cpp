@@ -14,6 +14,7 @@ TEST(ItemFace, UsesTheMembersOfTheObjectModel)
     expectUses<Item>({
         {u"EntryID", Get, {}, u"00AB", [](auto& item) { return item.entryId(); }},
         {u"Parent", Get, {}, other, [](auto& item) { return item.parent(); }},
+        {u"GetInspector", Get, {}, other, [](auto& item) { return item.getInspector(); }},
         {u"Class", Get, {}, 43, [](auto& item) { return item.objectClass(); }},
         {u"MessageClass", Get, {}, u"IPM.Post", [](auto& item) { return item.messageClass(); }},
         {u"Subject", Get, {}, u"Board", [](auto& item) { return item.subject(); }},
