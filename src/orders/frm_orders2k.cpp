@@ -34,20 +34,20 @@ void frmOrders2K::load()
 
 void frmOrders2K::listen()
 {
-    using Form = frmOrders2K;
-    controls_->txtBooker.GotFocus = handler(&Form::txtBooker_GotFocus);
-    controls_->txtCC1.GotFocus = handler(&Form::txtCC1_GotFocus);
-    controls_->txtCC2.GotFocus = handler(&Form::txtCC2_GotFocus);
-    controls_->txtOrderComment.GotFocus = handler(&Form::txtOrderComment_GotFocus);
-    constexpr std::array placeSettingFocused{&Form::optPlaceSetting1_GotFocus, &Form::optPlaceSetting2_GotFocus,
-        &Form::optPlaceSetting3_GotFocus, &Form::optPlaceSetting4_GotFocus};
+    controls_->txtBooker.GotFocus = handler(&frmOrders2K::txtBooker_GotFocus);
+    controls_->txtCC1.GotFocus = handler(&frmOrders2K::txtCC1_GotFocus);
+    controls_->txtCC2.GotFocus = handler(&frmOrders2K::txtCC2_GotFocus);
+    controls_->txtOrderComment.GotFocus = handler(&frmOrders2K::txtOrderComment_GotFocus);
+    constexpr std::array placeSettingFocused{&frmOrders2K::optPlaceSetting1_GotFocus,
+        &frmOrders2K::optPlaceSetting2_GotFocus, &frmOrders2K::optPlaceSetting3_GotFocus,
+        &frmOrders2K::optPlaceSetting4_GotFocus};
     for (std::size_t index = 0; index < placeSettingFocused.size(); ++index)
         controls_->optPlaceSetting.at(index)->GotFocus = handler(placeSettingFocused.at(index));
-    controls_->txtCC1.KeyPressed = handler(&Form::txtCC1_KeyPress);
-    controls_->txtCC1.KeyUp = handler(&Form::txtCC1_KeyUp);
-    controls_->txtCC2.KeyPressed = handler(&Form::txtCC2_KeyPress);
-    controls_->cmdOK.Click = handler(&Form::cmdOK_Click);
-    controls_->cmdCancel.Click = handler(&Form::cmdCancel_Click);
+    controls_->txtCC1.KeyPressed = handler(&frmOrders2K::txtCC1_KeyPress);
+    controls_->txtCC1.KeyUp = handler(&frmOrders2K::txtCC1_KeyUp);
+    controls_->txtCC2.KeyPressed = handler(&frmOrders2K::txtCC2_KeyPress);
+    controls_->cmdOK.Click = handler(&frmOrders2K::cmdOK_Click);
+    controls_->cmdCancel.Click = handler(&frmOrders2K::cmdCancel_Click);
     window_->QueryUnload = [form = weak_from_this()] {
         const auto held = form.lock();
         return held == nullptr || held->Form_QueryUnload();
