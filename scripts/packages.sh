@@ -26,6 +26,7 @@ install_packages() {
 }
 
 build_packages="g++ cmake ninja-build pkg-config qt6-base-dev libicu-dev libsqlite3-dev libixion-dev"
+run_packages="dbus-daemon"
 test_packages="clang-16 libclang-rt-16-dev libgtest-dev libical-dev clang-format dbus-daemon"
 bench_packages="libbenchmark-dev"
 fuzz_packages="clang-16 libclang-rt-16-dev"

@@ -38,6 +38,11 @@ public:
     {
         return face<Folder>(object().call({u"GetFolderFromID", where}, entryId, storeId), where);
     }
+    /// The item that was saved under that id; one that is gone is an error.
+    [[nodiscard]] Item getItemFromId(TextView entryId, Where where = Where::current()) const
+    {
+        return face<Item>(object().call({u"GetItemFromID", where}, entryId), where);
+    }
 };
 
 } // namespace rf::outlook

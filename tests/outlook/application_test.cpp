@@ -39,6 +39,7 @@ TEST(NameSpaceFace, UsesTheMembersOfTheObjectModel)
         {u"PickFolder", Call, {}, other, [](auto& session) { return session.pickFolder(); }},
         {u"GetFolderFromID", Call, {u"00AB", u"00CD"}, other,
             [](auto& session) { return session.getFolderFromId(u"00AB", u"00CD"); }},
+        {u"GetItemFromID", Call, {u"00AB"}, other, [](auto& session) { return session.getItemFromId(u"00AB"); }},
     });
 }
 
