@@ -116,6 +116,8 @@ fi
 if [ $slow = yes ]; then
     step "long fault runs" env RF_SLOW_TESTS=1 build/linux-asan/bin/native_tests \
         --gtest_filter='RulesAtWork.*:SqliteKill.*:RuleComparison.*'
+    step "the whole conference, and the program killed time and again" env RF_SLOW_TESTS=1 \
+        build/linux-asan/bin/system_tests --gtest_filter='DemoRun.*'
     if ! install_packages $fuzz_packages; then
         notes+=("skipped: libFuzzer on $(cd tests/fuzz && echo *_fuzz.cpp) (install: apt-get install $fuzz_packages)")
     elif step "build with libFuzzer" build linux-fuzz; then
