@@ -211,9 +211,7 @@ void cCurrInspector::cmdButton_Click(const outlook::CommandBarButton& /*Ctrl*/, 
 
 void cCurrInspector::showOrders()
 {
-    const auto form = ordersForms_ ? ordersForms_(ouaCurrApp_) : nullptr;
-    if (form == nullptr)
-        return;
+    const auto form = ordersForms_(ouaCurrApp_);
     form->Closed = handler(&cCurrInspector::objCurrOrders_FormClose);
     objCurrOrders_ = form;
     const auto window = session_.services.toolkit.findWindow(ouiCurrInspector_.caption());

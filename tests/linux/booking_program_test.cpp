@@ -195,5 +195,20 @@ TEST_F(BookingProgram, PutsTheTemplateIntoANewAppointmentAndOffersTheProjects)
     EXPECT_TRUE(dbus::runUntil([&] { return window.currentItem().body() == u"Agenda:"; }, 10s));
 }
 
+TEST_F(BookingProgram, OpensTheOrdersFormAndClosesItWithItsWindow)
+{
+    giveSettings({{u"strSupply0", 1, Text{u"Coffee\t2\r\n"}}, {u"strSupplyCount", 3, 0.0}});
+    startAndWait();
+    const auto window = open(u"Board", 14);
+    barOf(window).controls().item(1).execute();
+    ASSERT_FALSE(statusOfProgram()) << "the program has ended";
+    window.close(outlook::CloseMode::Discard);
+    const auto another = open(u"Board", 14);
+    ASSERT_TRUE(hasBar(another));
+    another.currentItem().save();
+    EXPECT_TRUE(another.currentItem().saved());
+    EXPECT_FALSE(within(1s, [&] { return statusOfProgram().has_value(); })) << "the program has ended";
+}
+
 } // namespace
 } // namespace rf::native
