@@ -1,6 +1,7 @@
 #include "linux/spreadsheet_view.h"
 
 #include "linux/qt_text.h"
+#include "linux/spreadsheet_icons.h"
 
 #include <QVBoxLayout>
 
@@ -30,11 +31,13 @@ View::View(std::shared_ptr<Sheet> sheet, QWidget* parent)
     bold.setBold(true);
     title_->setFont(bold);
     tools_->setFocusPolicy(Qt::NoFocus);
-    addTool("edit-cut", QStringLiteral("\u2702"), [this] { grid_->cut(); });
-    addTool("edit-copy", QStringLiteral("\u29C9"), [this] { grid_->copy(); });
-    addTool("edit-paste", QStringLiteral("\u2398"), [this] { grid_->paste(); });
-    addTool("view-sort-ascending", QStringLiteral("A\u2193Z"), [this] { grid_->sortSelected(Order::Ascending); });
-    addTool("view-sort-descending", QStringLiteral("Z\u2193A"), [this] { grid_->sortSelected(Order::Descending); });
+    // As high as the captions beside them, so that the tools take no row from the cells.
+    tools_->setIconSize(QSize{fontMetrics().height(), fontMetrics().height()});
+    addTool(drawnIcon(ToolSign::Cut), {}, [this] { grid_->cut(); });
+    addTool(drawnIcon(ToolSign::Copy), {}, [this] { grid_->copy(); });
+    addTool(drawnIcon(ToolSign::Paste), {}, [this] { grid_->paste(); });
+    addTool({}, QStringLiteral("A\u2193Z"), [this] { grid_->sortSelected(Order::Ascending); });
+    addTool({}, QStringLiteral("Z\u2193A"), [this] { grid_->sortSelected(Order::Descending); });
     tabs_->addTab(QStringLiteral("Sheet1"));
     tabs_->setShape(QTabBar::RoundedSouth);
     tabs_->setFocusPolicy(Qt::NoFocus);
@@ -49,9 +52,9 @@ View::View(std::shared_ptr<Sheet> sheet, QWidget* parent)
 
 View::~View() { sheet_->changed = nullptr; }
 
-void View::addTool(const char* icon, const QString& sign, std::function<void()> use)
+void View::addTool(const QIcon& icon, const QString& sign, std::function<void()> use)
 {
-    QAction* action = tools_->addAction(QIcon::fromTheme(QString::fromLatin1(icon)), sign);
+    QAction* action = tools_->addAction(icon, sign);
     connect(action, &QAction::triggered, this, [use = std::move(use)] { use(); });
 }
 

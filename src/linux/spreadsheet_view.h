@@ -19,7 +19,7 @@ public:
     [[nodiscard]] GridView& grid() { return *grid_; }
 
 private:
-    void addTool(const char* icon, const QString& sign, std::function<void()> use);
+    void addTool(const QIcon& icon, const QString& sign, std::function<void()> use);
     void arrange();
 
     std::shared_ptr<Sheet> sheet_;
