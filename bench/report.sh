@@ -133,6 +133,13 @@ callsToValidate|calls to the host, booking validated|calls||< 12
 callsToAcceptSave|calls to the host, save with both copies|calls||< 65
 callsOfItemAdd|calls to the host, one item added|calls||< 73
 callsOfItemChange|calls to the host, unchanged item changed|calls||< 48
+openOrdersForm/99|orders form of 99 supplies opened|time|ms|< 200
+openOrdersForm/500|orders form of 500 supplies opened|time|ms|-
+typeQuantity/99|quantity typed until its total is shown|time|ms|< 20
+callsOfOrdersForm/99|calls to the host, orders form opened|open_host||< 40
+callsOfOrdersForm/99|calls to the host, orders form left by OK|ok_host||< 30
+callsOfOrdersForm/99|calls to the spreadsheet, form opened|open_sheet||< 170
+callsOfOrdersForm/99|calls to the spreadsheet, form left by OK|ok_sheet||< 10
 splitIntoLines|text split into lines|bytes|MB/s|> 200
 overlappingFreeSlot/1000|free slot in 1,000: p50|store_p50_us|us|-
 overlappingFreeSlot/1000|    p99|store_p99_us|us|-
