@@ -45,7 +45,7 @@ void frmOrders2K::listen()
         controls_->optPlaceSetting.at(index)->GotFocus = handler(placeSettingFocused.at(index));
     controls_->txtCC1.KeyPressed = handler(&frmOrders2K::txtCC1_KeyPress);
     controls_->txtCC1.KeyUp = handler(&frmOrders2K::txtCC1_KeyUp);
-    controls_->txtCC2.KeyPressed = handler(&frmOrders2K::txtCC2_KeyPress);
+    controls_->txtCC2.KeyPressed = &frmOrders2K::txtCC2_KeyPress;
     controls_->cmdOK.Click = handler(&frmOrders2K::cmdOK_Click);
     controls_->cmdCancel.Click = handler(&frmOrders2K::cmdCancel_Click);
     window_->QueryUnload = [form = weak_from_this()] {

@@ -71,7 +71,7 @@ public:
 
     void txtCC1_KeyPress(char16_t& key);
     void txtCC1_KeyUp();
-    void txtCC2_KeyPress(char16_t& key);
+    static void txtCC2_KeyPress(char16_t& key);
 
 private:
     /// A handler of a control. The form may be let go while it runs, so it holds the form.

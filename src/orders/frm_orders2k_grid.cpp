@@ -27,8 +27,8 @@ void frmOrders2K::subSetupList()
         list_->Top = OrdersControls::gridTop;
         list_->Left = OrdersControls::gridLeft;
         list_->Height = OrdersControls::gridHeight;
-        list_->ControlName = u"exsOrders";
-        list_->ConvertWidths = true;
+        list_->controlName = u"exsOrders";
+        list_->convertWidths = true;
         list_->setVisible(true);
         list_->SelectionChange = handler(&frmOrders2K::exsOrders_SelectionChange);
         list_->AddToForm(*window_);
@@ -74,7 +74,7 @@ void frmOrders2K::subCountOrders()
     session_.reporter.handled(u"subCountOrders", [&] {
         if (list_ == nullptr)
             return;
-        list_->Calculate();
+        list_->calculate();
         controls_->lblSum.setCaption(totalText(session_.services.regional, list_->GetValue(grid::totalCell)));
     });
 }

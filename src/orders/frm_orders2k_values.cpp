@@ -35,7 +35,7 @@ void frmOrders2K::subSetCaptions()
         if (list_ == nullptr)
             return;
         list_->setEditMode(true);
-        list_->SetTitle(phrases.LNGSUPPLY);
+        list_->setTitle(phrases.LNGSUPPLY);
         list_->SetValue(u"A1", phrases.LNGITEM);
         list_->SetValue(u"B1", phrases.LNGRATE);
         list_->SetValue(u"C1", phrases.LNGNOITEMS);

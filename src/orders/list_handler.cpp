@@ -52,7 +52,7 @@ void cListHandler::setRaiseEventsEnabled(bool enabled)
 void cListHandler::AddToForm(ui::FormWindow& form)
 {
     session_.reporter.handled(u"cListHandler.AddToForm", [&] {
-        made_ = makeSpreadsheetControl(form, ControlName, PreferNewest ? FirstClass::Skip : FirstClass::Try);
+        made_ = makeSpreadsheetControl(form, controlName, preferNewest ? FirstClass::Skip : FirstClass::Try);
         if (made_.control == nullptr)
             endWithoutSpreadsheet(session_);
         spreadsheet_ = outlook::Spreadsheet{made_.control->object()};

@@ -40,14 +40,14 @@ public:
     ~cListHandler();
 
     /// Set by the owner before `AddToForm`: the control's name on the form, and where it stands, in twips.
-    Text ControlName;
+    Text controlName;
     std::int16_t Top = 0;
     std::int16_t Left = 0;
     std::int16_t Height = 0;
     /// Leaves out the first of the control's classes.
-    bool PreferNewest = false;
+    bool preferNewest = false;
     /// Widths given to `SetColumnWidth` are pixels; the control of today counts characters.
-    bool ConvertWidths = false;
+    bool convertWidths = false;
 
     /// In twips; a control that is there already takes it.
     [[nodiscard]] std::int32_t Width() const { return width_; }
@@ -94,7 +94,7 @@ public:
     /// Unless it is told to leave them, the cells' borders become thin silver lines.
     void SetInteriorColor(TextView address, std::int32_t color = shade, bool blnClearBorders = false);
     [[nodiscard]] std::int32_t GetInteriorColor(TextView address);
-    void SetTitle(TextView caption);
+    void setTitle(TextView caption);
 
     /// While it is on, the program can write into locked cells and nothing is drawn.
     void setEditMode(bool on);
@@ -112,7 +112,7 @@ public:
     [[nodiscard]] automation::Variant GetValue(TextView address, std::optional<ValueKind> dataType = std::nullopt);
     /// A formula for several cells speaks of the first of them; in the others it speaks of the cells beside those.
     void SetFormula(TextView address, TextView formula);
-    void Calculate();
+    void calculate();
     /// The two characters of the symbol font that are a ticked and an empty box.
     void SetChecked(TextView address, bool value);
     [[nodiscard]] bool GetChecked(TextView address);

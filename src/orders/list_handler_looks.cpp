@@ -129,7 +129,7 @@ void cListHandler::SetColumnWidth(TextView columnName, double width)
 {
     session_.reporter.handled(u"cListHandler.SetColumnWidth", [&] {
         const auto columns = range(columnAddress(columnName)).entireColumn();
-        columns.setColumnWidth(ConvertWidths ? width * charactersPerPixel : width);
+        columns.setColumnWidth(convertWidths ? width * charactersPerPixel : width);
     });
 }
 
@@ -170,7 +170,7 @@ std::int32_t cListHandler::GetInteriorColor(TextView address)
         u"cListHandler.GetInteriorColor", [&] { return range(address).interior().color(); });
 }
 
-void cListHandler::SetTitle(TextView caption)
+void cListHandler::setTitle(TextView caption)
 {
     session_.reporter.handled(u"cListHandler.SetTitle", [&] { spreadsheet_.titleBar().setCaption(caption); });
 }

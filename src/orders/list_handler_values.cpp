@@ -79,7 +79,7 @@ void cListHandler::SetFormula(TextView address, TextView formula)
     });
 }
 
-void cListHandler::Calculate()
+void cListHandler::calculate()
 {
     session_.reporter.handled(u"cListHandler.Calculate", [&] { sheet_.calculate(); });
 }

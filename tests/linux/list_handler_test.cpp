@@ -13,7 +13,7 @@ protected:
     ListOverSpreadsheet()
     {
         test::offerSpreadsheets(toolkit, contents, englishSettings(), GetParam());
-        list.ControlName = u"exsOrders";
+        list.controlName = u"exsOrders";
         list.setWidth(8535);
         list.AddToForm(*window);
         sheet = outlook::Spreadsheet{contents.back()->object()};
@@ -200,7 +200,7 @@ TEST_P(ListOverSpreadsheet, MeasuresColumnsInPixelsOrInCharacters)
 {
     list.SetColumnWidth(u"B", 20);
     EXPECT_EQ(sheet.range(u"B1").columnWidth(), 20);
-    list.ConvertWidths = true;
+    list.convertWidths = true;
     list.SetColumnWidth(u"A", 400);
     EXPECT_DOUBLE_EQ(sheet.range(u"A1").columnWidth(), 55.36);
 }

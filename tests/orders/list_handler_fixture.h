@@ -14,7 +14,7 @@ protected:
     {
         notes->constants = test::laterConstants();
         offer(u"OWC10.Spreadsheet");
-        list.ControlName = u"exsOrders";
+        list.controlName = u"exsOrders";
     }
 
     void offer(const Text& className)

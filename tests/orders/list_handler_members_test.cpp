@@ -58,7 +58,7 @@ TEST_F(ListHandlerMembers, SetThePartsOfTheWindow)
         (Uses{u"ActiveWindow.DisplayVerticalScrollBar = False"}));
     EXPECT_EQ(usesOf([](auto& it) { it.DisplayHorizontalScroll(true); }),
         (Uses{u"ActiveWindow.DisplayHorizontalScrollBar = True"}));
-    EXPECT_EQ(usesOf([](auto& it) { it.SetTitle(u"Supply"); }), (Uses{u"TitleBar.Caption = Supply"}));
+    EXPECT_EQ(usesOf([](auto& it) { it.setTitle(u"Supply"); }), (Uses{u"TitleBar.Caption = Supply"}));
     EXPECT_EQ(usesOf([](auto& it) { it.setMoveRight(true); }),
         (Uses{u"MoveAfterReturn = True", u"MoveAfterReturnDirection = -4161"}));
     EXPECT_EQ(usesOf([](auto& it) { it.setMoveRight(false); }), Uses{});
@@ -93,7 +93,7 @@ TEST_F(ListHandlerMembers, SetWidthsInCharactersOrInPixels)
         usesOf([](auto& it) { it.SetColumnWidth(u"A", 12); }), (Uses{u"Range(A:A).EntireColumn.ColumnWidth = 12"}));
     EXPECT_EQ(
         usesOf([](auto& it) { it.SetColumnWidth(u"B:D", 58); }), (Uses{u"Range(B:D).EntireColumn.ColumnWidth = 58"}));
-    list.ConvertWidths = true;
+    list.convertWidths = true;
     EXPECT_EQ(
         usesOf([](auto& it) { it.SetColumnWidth(u"A", 400); }), (Uses{u"Range(A:A).EntireColumn.ColumnWidth = 55.36"}));
 }

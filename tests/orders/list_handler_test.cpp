@@ -27,7 +27,7 @@ TEST_F(ListHandler, TakesTheFirstClassThatIsThere)
 TEST_F(ListHandler, SkipsTheFirstClassWhenTheNewestIsPreferred)
 {
     offer(u"OWC11.Spreadsheet");
-    list.PreferNewest = true;
+    list.preferNewest = true;
     list.AddToForm(*window);
     EXPECT_EQ(form().asked, (std::vector<Text>{u"OWC11.Spreadsheet"}));
 }
@@ -148,7 +148,7 @@ TEST_F(ListHandler, IsNotHeardOnceItHasGone)
     int heard = 0;
     {
         cListHandler other{session};
-        other.ControlName = u"exsOther";
+        other.controlName = u"exsOther";
         other.SelectionChange = [&](const Text&) { ++heard; };
         other.AddToForm(*window);
         other.setRaiseEventsEnabled(true);
