@@ -4,42 +4,59 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <algorithm>
+#include <array>
 
 namespace rf::native::spreadsheet {
 
 namespace {
 
-/// The signs are drawn in a square of so many units.
+// The signs are drawn in a square of so many units.
 constexpr double unitsAcross = 16;
+
+constexpr std::array blades{QLineF{4, 1, 10, 11}, QLineF{12, 1, 6, 11}};
+constexpr std::array handles{QRectF{2.5, 10.5, 4, 4}, QRectF{9.5, 10.5, 4, 4}};
+
+/// What can be seen of a sheet behind another one.
+constexpr std::array sheetBehind{QPointF{4, 11}, QPointF{1.5, 11}, QPointF{1.5, 1.5}, QPointF{9, 1.5}, QPointF{9, 4}};
+constexpr QRectF sheetInFront{5, 4.5, 9, 10};
+
+constexpr QRectF board{2, 3, 12, 12};
+constexpr QRectF clip{5.5, 1, 5, 3.5};
+constexpr QRectF sheetOnBoard{4.5, 6, 7, 7};
+
+/// The lines of a sheet, as shares of its height, and how far they are from its edges.
+constexpr std::array textLines{0.3, 0.5, 0.7};
+constexpr double textMargin = 2;
 
 void drawSheet(QPainter& painter, const QRectF& sheet)
 {
     painter.drawRect(sheet);
-    for (const double line : {0.3, 0.5, 0.7})
-        painter.drawLine(QPointF{sheet.left() + 2, sheet.top() + sheet.height() * line},
-            QPointF{sheet.right() - 2, sheet.top() + sheet.height() * line});
+    for (const double share : textLines) {
+        const double height = sheet.top() + sheet.height() * share;
+        painter.drawLine(QPointF{sheet.left() + textMargin, height}, QPointF{sheet.right() - textMargin, height});
+    }
 }
 
 void drawScissors(QPainter& painter)
 {
-    painter.drawLine(QPointF{4, 1}, QPointF{10, 11});
-    painter.drawLine(QPointF{12, 1}, QPointF{6, 11});
-    painter.drawEllipse(QPointF{4.5, 12.5}, 2, 2);
-    painter.drawEllipse(QPointF{11.5, 12.5}, 2, 2);
+    for (const QLineF& blade : blades)
+        painter.drawLine(blade);
+    for (const QRectF& handle : handles)
+        painter.drawEllipse(handle);
 }
 
 void drawTwoSheets(QPainter& painter)
 {
-    painter.drawPolyline(
-        QPolygonF{{QPointF{4, 11}, QPointF{1.5, 11}, QPointF{1.5, 1.5}, QPointF{9, 1.5}, QPointF{9, 4}}});
-    drawSheet(painter, {5, 4.5, 9, 10});
+    painter.drawPolyline(sheetBehind.data(), static_cast<int>(sheetBehind.size()));
+    drawSheet(painter, sheetInFront);
 }
 
 void drawClipboard(QPainter& painter)
 {
-    painter.drawRect(QRectF{2, 3, 12, 12});
-    painter.drawRect(QRectF{5.5, 1, 5, 3.5});
-    drawSheet(painter, {4.5, 6, 7, 7});
+    painter.drawRect(board);
+    painter.drawRect(clip);
+    drawSheet(painter, sheetOnBoard);
 }
 
 /// Draws anew each time, so that it follows the palette.

@@ -79,7 +79,7 @@ outlook::Dictionary cListHandler::fncGetRangeDic(TextView countCell, TextView la
 {
     session_.trace.subTrace(u"Entering fncGetRangeDic");
     return session_.reporter.handled(u"cListHandler.fncGetRangeDic", [&] {
-        const auto rows = session_.scripting.fncCreateDic();
+        auto rows = session_.scripting.fncCreateDic();
         for (const auto& row : rowsOf(sortedRows(countCell, lastColumn)))
             if (const Text key = toText(session_.services.regional, row.front()); !rows.exists(key))
                 rows.add(key, Array::list(row));

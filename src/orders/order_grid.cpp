@@ -10,7 +10,6 @@
 namespace rf::orders {
 
 using automation::Array;
-using automation::Variant;
 
 namespace {
 

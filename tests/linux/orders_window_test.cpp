@@ -1,4 +1,5 @@
 #include "keeping_toolkit.h"
+#include "linux/browser_content.h"
 #include "linux/spreadsheet_view.h"
 #include "orders_fixture.h"
 #include "window_fixture.h"
@@ -8,6 +9,7 @@
 
 #include <QHeaderView>
 #include <QPushButton>
+#include <QTextDocument>
 
 namespace rf::orders {
 namespace {
@@ -257,6 +259,24 @@ TEST_F(OrdersWindow, ShowsAllColumnsWithoutScrollingSideways)
     EXPECT_LE(width, widget(window(), u"exsOrders")->width());
     EXPECT_EQ(grid().model()->columnCount(), 3);
     EXPECT_EQ(grid().model()->rowCount(), 100);
+}
+
+TEST_F(OrdersWindow, PrintsAListByTheBrowserOfThisPlatform)
+{
+    const auto other = keeping.makeFormWindow();
+    cListHandler list{*booker.session};
+    list.controlName = u"exsList";
+    list.AddToForm(*other);
+    list.setEditMode(true);
+    list.SetValue(u"A1", u"<b>Item</b> \u05E7\u05E4\u05D4");
+    list.setEditMode(false);
+    QString printed;
+    const auto browser = native::makeBrowserContent([&](QTextDocument& page) {
+        printed = page.toPlainText();
+        return true;
+    });
+    list.PrintSheet(outlook::WebBrowser{browser->object()});
+    EXPECT_TRUE(printed.contains(qtText(u"<b>Item</b> \u05E7\u05E4\u05D4"))) << printed.toStdString();
 }
 
 TEST_F(OrdersWindow, IsDrawnLightAndDark)
