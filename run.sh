@@ -55,7 +55,9 @@ demo=$(realpath "$demo")
 store=$demo/store.db
 # The host and the program leave their temporary files, and the selection file, with the demonstration.
 export TMPDIR=$demo/temporary
-# Without a screen they write to standard error; a platform without one would draw where nobody looks.
+# Without a screen they write to standard error. Windows are for who sits here: a message in one waits for an answer, and
+# a platform without a screen would draw where nobody looks.
+[ -t 0 ] || unset DISPLAY WAYLAND_DISPLAY
 [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || unset QT_QPA_PLATFORM
 
 bus=

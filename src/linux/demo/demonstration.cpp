@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <map>
 
 namespace rf::demo {
 
@@ -60,9 +61,10 @@ private:
     /// Completes what earlier runs have begun. The talks that are not booked yet.
     std::vector<Talk> takeUp(std::vector<Booking> bookings)
     {
-        const auto left = std::ranges::stable_partition(bookings, &Booking::isBooked);
-        std::ranges::for_each(left, [&](const Booking& booking) { delivery_.remove(booking); });
-        bookings.erase(left.begin(), left.end());
+        const auto left = std::stable_partition(
+            bookings.begin(), bookings.end(), [](const Booking& booking) { return booking.isBooked; });
+        std::for_each(left, bookings.end(), [&](const Booking& booking) { delivery_.remove(booking); });
+        bookings.erase(left, bookings.end());
         if (copiesIn(installation_.personal) != bookings.size() || copiesIn(installation_.master) != bookings.size())
             std::ranges::for_each(bookings, [&](const Booking& booking) { delivery_.completeCopies(booking); });
         const Matches matches = match(talks_, bookings);
@@ -88,16 +90,36 @@ private:
 
     void count(Run& run) const
     {
-        const std::vector<Booking> found = bookings();
+        std::vector<Booking> found = bookings();
+        std::erase_if(found, [](const Booking& booking) { return !booking.isBooked; });
         const Matches matches = match(talks_, found);
         run.bookings = found.size();
-        run.personalCopies = copiesIn(installation_.personal);
-        run.masterCopies = copiesIn(installation_.master);
-        std::ranges::transform(
-            matches.others, std::back_inserter(run.doubled), [&](std::size_t position) { return found[position]; });
+        run.personalCopies = withOneCopy(found, installation_.personal);
+        run.masterCopies = withOneCopy(found, installation_.master);
+        for (const std::size_t position : matches.others)
+            if (isTalks(found[position]))
+                run.doubled.push_back(found[position]);
         for (std::size_t index = 0; index < talks_.size(); ++index)
             if (!matches.bookings[index] && !isHeld(run, talks_[index]))
                 run.lost.push_back(talks_[index]);
+    }
+
+    /// Whether a booking is some talk's; others may be a person's own.
+    [[nodiscard]] bool isTalks(const Booking& booking) const
+    {
+        return std::ranges::any_of(talks_, [&](const Talk& talk) {
+            return talk.subject == booking.subject && equalIgnoringCase(talk.room, booking.room);
+        });
+    }
+
+    /// How many of the bookings have one copy in a folder, neither none nor two.
+    [[nodiscard]] std::size_t withOneCopy(std::span<const Booking> bookings, const outlook::Folder& folder) const
+    {
+        std::map<Text, int> copies;
+        for (const Booking& copy : bookingsOf(session_, folder, {}, weeks_))
+            ++copies[copy.link];
+        return static_cast<std::size_t>(
+            std::ranges::count_if(bookings, [&](const Booking& booking) { return copies[booking.link] == 1; }));
     }
 
     static bool isHeld(const Run& run, const Talk& talk)
@@ -137,7 +159,7 @@ std::filesystem::path writePicture(const std::filesystem::path& folder, const Fo
     const auto told = std::ranges::find(before.entries, Tone::Told, &WeekEntry::tone);
     if (told != before.entries.end())
         after.entries.push_back({told->subject, told->start, told->minutes, Tone::Left});
-    const std::filesystem::path file = folder / "week.svg";
+    std::filesystem::path file = folder / "week.svg";
     std::ofstream out{file, std::ios::binary};
     out << weekPicture(u"A week in " + followUp.room, followUp.monday, {before, after});
     out.close();
@@ -157,6 +179,8 @@ void tellBeginning(std::ostream& out, const Programme& programme)
 bool showFollowUp(const Demonstration& demonstration, const DemoOptions& options, std::ostream& out)
 {
     const auto bookings = demonstration.bookings();
+    if (options.hasScreen)
+        out << "\nThe host may show a message now; it waits for your answer." << std::endl;
     const auto followUp = demonstration.followUpOf(bookings);
     if (!followUp)
         return true;

@@ -18,6 +18,8 @@ struct DemoOptions {
     std::filesystem::path pictures;
     /// Whether a booking is moved about after the delivery.
     bool withFollowUp = true;
+    /// Whether messages of the host go to a screen, where a person answers them.
+    bool hasScreen = false;
 };
 
 /// Delivers the calendars beside the host, tells what the program made of them, and whether that was all as it should

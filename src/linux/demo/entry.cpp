@@ -22,9 +22,10 @@ constexpr std::string_view usage = R"(Usage: rfdemo [--pictures FOLDER] [--deliv
 
 Beside a host on the session bus, brings the talks of calendar files into the
 calendars of their rooms, one by one, as another client does, and tells what
-RFBookingInfo makes of them. The host needs the root folder of "rfhost init" and
-starts RFBookingInfo when that folder is shown ("rfhost serve --program").
-A talk that is booked already is left alone.
+RFBookingInfo makes of them. The host needs the root folder of "rfhost init",
+starts RFBookingInfo when that folder is shown ("rfhost serve --program"), and
+agrees to alerts ("--accept-alerts") when nobody is there to answer them. A talk
+that is booked already is left alone.
 
   --pictures FOLDER  where the picture of a week goes; here by default
   --deliver-only     leave out what happens to a booking afterwards
@@ -56,11 +57,12 @@ int fill(std::span<const std::string> arguments)
     return EXIT_SUCCESS;
 }
 
-int deliver(std::span<const std::string> arguments, ui::Toolkit& toolkit)
+int deliver(std::span<const std::string> arguments, bool hasScreen, ui::Toolkit& toolkit)
 {
     constexpr std::chrono::seconds hostLimit{10};
     const host::CommandLine line{arguments, {"--pictures"}, {"--deliver-only"}};
-    const demo::DemoOptions options{calendarsOf(line), line.value("--pictures", "."), !line.has("--deliver-only")};
+    const demo::DemoOptions options{
+        calendarsOf(line), line.value("--pictures", "."), !line.has("--deliver-only"), hasScreen};
     demo::HostClient host;
     host.attach(hostLimit);
     const auto regional = native::makeRegional();
@@ -84,12 +86,16 @@ int main(int argumentCount, char** argumentList)
         return words.empty() ? 2 : 0;
     }
     // It has no windows, so it needs no screen either.
-    for (const char* const screen : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"})
+    bool hasScreen = false;
+    for (const char* const screen : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"}) {
+        const char* const value = std::getenv(screen);
+        hasScreen = hasScreen || (value != nullptr && *value != '\0');
         unsetenv(screen);
+    }
     native::QtToolkit toolkit{argumentCount, argumentList};
     try {
         const bool isFill = words[0] == "fill";
-        return isFill ? fill(std::span{words}.subspan(1)) : deliver(words, toolkit);
+        return isFill ? fill(std::span{words}.subspan(1)) : deliver(words, hasScreen, toolkit);
     } catch (const host::UsageError& error) {
         std::cerr << "rfdemo: " << error.what() << "\n\n" << usage;
         return 2;

@@ -156,7 +156,8 @@ std::optional<Date> freeSlot(std::span<const Booking> bookings, const Booking& b
 {
     std::vector<Date> hours = hoursFrom(mondayOf(booking.start), booking.minutes);
     // First those behind the booking.
-    std::ranges::stable_partition(hours, [&](Date hour) { return hour.seconds() > booking.start.seconds(); });
+    std::stable_partition(
+        hours.begin(), hours.end(), [&](Date hour) { return hour.seconds() > booking.start.seconds(); });
     const auto found = std::ranges::find_if(hours, [&](Date hour) {
         return !overlaps(booking, hour, hour.plusMinutes(booking.minutes)) && isFree(bookings, booking, hour);
     });

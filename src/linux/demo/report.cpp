@@ -64,7 +64,7 @@ std::size_t Run::accepted() const
 
 bool Run::isComplete() const
 {
-    return lost.empty() && doubled.empty() && known + delivered.size() == talks && bookings == known + accepted()
+    return lost.empty() && doubled.empty() && known + delivered.size() == talks && bookings >= known + accepted()
         && personalCopies == bookings && masterCopies == bookings;
 }
 
@@ -96,8 +96,8 @@ void tellRun(std::ostream& out, const Run& run)
         label(out, "LOST") << toUtf8(talk.room) << ", " << slotOf(talk.start, talk.minutes) << "  "
                            << onOneLine(talk.subject) << '\n';
     for (const Booking& booking : run.doubled)
-        label(out, "NO TALK'S") << toUtf8(booking.room) << ", " << slotOf(booking.start, booking.minutes) << "  "
-                                << onOneLine(booking.subject) << '\n';
+        label(out, "DOUBLED") << toUtf8(booking.room) << ", " << slotOf(booking.start, booking.minutes) << "  "
+                              << onOneLine(booking.subject) << '\n';
 }
 
 void tellFollowUp(std::ostream& out, const FollowUp& followUp)

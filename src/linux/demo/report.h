@@ -22,11 +22,12 @@ struct Run {
     /// Automation calls of the program, and what one call takes at least, in milliseconds.
     std::uint64_t calls = 0;
     double latency = 0;
-    /// What the calendars hold at the end.
+    /// What the rooms hold at the end, bookings that people made themselves included, and how many of these have one
+    /// copy.
     std::size_t bookings = 0;
     std::size_t personalCopies = 0;
     std::size_t masterCopies = 0;
-    /// Talks that are neither booked nor held back, and bookings that no talk asked for.
+    /// Talks that are neither booked nor held back, and those that are booked once more.
     std::vector<Talk> lost;
     std::vector<Booking> doubled;
 
