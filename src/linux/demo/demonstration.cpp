@@ -146,6 +146,7 @@ private:
 std::vector<WeekEntry> entriesOf(const FollowUp& followUp, const std::vector<Booking>& bookings)
 {
     std::vector<WeekEntry> entries;
+    entries.reserve(bookings.size());
     for (const Booking& booking : bookings)
         entries.push_back({booking.subject, booking.start, booking.minutes,
             booking.entryId == followUp.entryId ? Tone::Told : Tone::Plain});

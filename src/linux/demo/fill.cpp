@@ -72,23 +72,23 @@ void saveMany(host::Store& store, std::int64_t count, const Make& make)
 
 } // namespace
 
-void fillStore(const std::filesystem::path& path, std::span<const Talk> talks, std::int64_t bookings)
+void fillStore(const std::filesystem::path& store, std::span<const Talk> talks, std::int64_t bookings)
 {
-    host::SqliteStore store{path, host::Opening::Existing};
-    const host::FolderId publicFolders = requireFolder(store, u"\\\\Public Folders\\All Public Folders");
-    const host::FolderId root = requireFolder(store, u"\\\\Public Folders\\All Public Folders\\Roomfold");
+    host::SqliteStore file{store, host::Opening::Existing};
+    const host::FolderId publicFolders = requireFolder(file, u"\\\\Public Folders\\All Public Folders");
+    const host::FolderId root = requireFolder(file, u"\\\\Public Folders\\All Public Folders\\Roomfold");
     std::vector<host::FolderId> rooms;
     for (const Text& room : roomsOf(talks))
-        rooms.push_back(host::ensureCalendar(store, root, room));
+        rooms.push_back(host::ensureCalendar(file, root, room));
     if (rooms.empty())
         throw DemoError{"the calendar has no talks"};
     // Each room has its own run of hours; the copies of all lie in the order of the rooms' turns.
-    saveMany(store, bookings,
+    saveMany(file, bookings,
         [&](std::int64_t index) { return booking(rooms[static_cast<std::size_t>(index) % rooms.size()], index); });
-    const host::FolderId personal = requireFolder(store, u"\\\\Mailbox - Jane Doe\\Calendar");
-    const host::FolderId master = host::ensureCalendar(store, publicFolders, u"All bookings");
+    const host::FolderId personal = requireFolder(file, u"\\\\Mailbox - Jane Doe\\Calendar");
+    const host::FolderId master = host::ensureCalendar(file, publicFolders, u"All bookings");
     for (const host::FolderId folder : {personal, master})
-        saveMany(store, bookings, [&](std::int64_t index) { return appointment(folder, index); });
+        saveMany(file, bookings, [&](std::int64_t index) { return appointment(folder, index); });
 }
 
 } // namespace rf::demo

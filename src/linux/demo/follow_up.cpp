@@ -120,7 +120,7 @@ private:
         return copy ? copy.start().seconds() : 0;
     }
 
-    void closeWindow(const outlook::Item& booking) const
+    static void closeWindow(const outlook::Item& booking)
     {
         PendingError errors;
         errors.attempt([&] { booking.close(outlook::CloseMode::Discard); });

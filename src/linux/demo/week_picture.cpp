@@ -68,7 +68,9 @@ Text fitting(TextView text, int space)
     if (text.size() <= room)
         return Text{text};
     Text shorter{text.substr(0, room > 0 ? room - 1 : 0)};
-    if (!shorter.empty() && (shorter.back() & 0xFC00) == 0xD800)
+    constexpr char16_t firstLeadingHalf = 0xD800;
+    constexpr char16_t firstTrailingHalf = 0xDC00;
+    if (!shorter.empty() && shorter.back() >= firstLeadingHalf && shorter.back() < firstTrailingHalf)
         shorter.pop_back();
     return shorter.empty() ? shorter : shorter + u"…";
 }
@@ -157,9 +159,9 @@ private:
             line(leftOf(day), bodyTop, leftOf(day), bodyTop + frame_.height());
         }
         for (int hour = frame_.firstHour; hour < frame_.lastHour; ++hour) {
-            const int y = bodyTop + (hour - frame_.firstHour) * hourHeight;
-            text(left_ + 2 * inset, y + baseline, R"(fill="#718096")", fromUtf8(std::to_string(hour) + ":00"));
-            line(leftOf(frame_.firstDay), y, leftOf(frame_.lastDay + 1), y);
+            const int lineTop = bodyTop + (hour - frame_.firstHour) * hourHeight;
+            text(left_ + 2 * inset, lineTop + baseline, R"(fill="#718096")", fromUtf8(std::to_string(hour) + ":00"));
+            line(leftOf(frame_.firstDay), lineTop, leftOf(frame_.lastDay + 1), lineTop);
         }
     }
 
@@ -182,7 +184,7 @@ private:
         const int top = bodyTop + begin * hourHeight / minutesPerHour;
         const int height = std::max(bodyTop + end * hourHeight / minutesPerHour - top - 1, smallestHeight);
         out_ << "  <rect x=\"" << leftOf(day) + inset << "\" y=\"" << top << "\" width=\"" << dayWidth_ - 2 * inset
-             << "\" height=\"" << height << "\" rx=\"2\" " << lookOf(entry.tone) << "/>\n";
+             << "\" height=\"" << height << R"(" rx="2" )" << lookOf(entry.tone) << "/>\n";
         if (height >= lineHeight && entry.tone != Tone::Left)
             text(leftOf(day) + 3 * inset, top + baseline,
                 entry.tone == Tone::Told ? R"(fill="#742a2a" font-size="9")" : R"(fill="#1a365d" font-size="9")",
