@@ -19,8 +19,8 @@ constexpr std::size_t mostEvents = 100'000;
 constexpr std::size_t mostObservances = 200;
 constexpr std::size_t deepest = 20;
 
-template <std::size_t Size>
-bool contains(const std::array<std::string_view, Size>& names, std::string_view name)
+template <std::size_t size>
+bool contains(const std::array<std::string_view, size>& names, std::string_view name)
 {
     return std::find(names.begin(), names.end(), name) != names.end();
 }

@@ -7,15 +7,15 @@
 
 namespace rf::host::ical {
 
-template <std::size_t Size>
-void RuleDays::Numbers<Size>::add(int number)
+template <std::size_t size>
+void RuleDays::Numbers<size>::add(int number)
 {
     (number > 0 ? fromBegin : fromEnd).set(static_cast<std::size_t>(std::abs(number)));
     any = true;
 }
 
-template <std::size_t Size>
-bool RuleDays::Numbers<Size>::has(int position, int count) const
+template <std::size_t size>
+bool RuleDays::Numbers<size>::has(int position, int count) const
 {
     return !any || fromBegin.test(static_cast<std::size_t>(position))
         || fromEnd.test(static_cast<std::size_t>(count) - static_cast<std::size_t>(position) + 1);

@@ -23,10 +23,10 @@ public:
 
 private:
     /// Numbers that count from the begin of something, and from its end.
-    template <std::size_t Size>
+    template <std::size_t size>
     struct Numbers {
-        std::bitset<Size> fromBegin;
-        std::bitset<Size> fromEnd;
+        std::bitset<size> fromBegin;
+        std::bitset<size> fromEnd;
         bool any = false;
 
         void add(int number);

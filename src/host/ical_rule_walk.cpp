@@ -21,12 +21,12 @@ std::vector<int> orElse(std::vector<int> list, int value, int most)
     return list;
 }
 
-template <std::size_t Size>
-std::bitset<Size> allowed(const std::vector<int>& list)
+template <std::size_t size>
+std::bitset<size> allowed(const std::vector<int>& list)
 {
-    std::bitset<Size> numbers;
+    std::bitset<size> numbers;
     for (const int number : list) {
-        numbers.set(std::min(static_cast<std::size_t>(number), Size - 1));
+        numbers.set(std::min(static_cast<std::size_t>(number), size - 1));
     }
     return list.empty() ? numbers.set() : numbers;
 }

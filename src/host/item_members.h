@@ -13,33 +13,33 @@
 namespace rf::host {
 
 /// A member of items that is a text of the record.
-template <class T, Text ItemRecord::*Field>
+template <class T, Text ItemRecord::*field>
 automation::LocalMember<T> itemText(TextView name)
 {
     return {name,
         [](T& self, const automation::Arguments&) -> automation::Variant {
             self.requireAlive();
-            return self.record().*Field;
+            return self.record().*field;
         },
         [](T& self, const automation::Arguments& arguments) {
             self.requireAlive();
-            self.record().*Field = arguments.value().text();
+            self.record().*field = arguments.value().text();
             self.touch();
         }};
 }
 
 /// A member of items that is a number of the record.
-template <class T, std::int32_t ItemRecord::*Field>
+template <class T, std::int32_t ItemRecord::*field>
 automation::LocalMember<T> itemNumber(TextView name)
 {
     return {name,
         [](T& self, const automation::Arguments&) -> automation::Variant {
             self.requireAlive();
-            return self.record().*Field;
+            return self.record().*field;
         },
         [](T& self, const automation::Arguments& arguments) {
             self.requireAlive();
-            self.record().*Field = arguments.value().integer32();
+            self.record().*field = arguments.value().integer32();
             self.touch();
         }};
 }

@@ -22,11 +22,11 @@ struct WindowPlace {
 };
 
 /// The member of a window that reads and assigns one of these numbers.
-template <class T, std::int32_t WindowPlace::*Number>
+template <class T, std::int32_t WindowPlace::*number>
 constexpr automation::LocalMember<T> placeMember(TextView name)
 {
-    return {name, [](T& self, const automation::Arguments&) -> automation::Variant { return self.place().*Number; },
-        [](T& self, const automation::Arguments& arguments) { self.place().*Number = arguments.value().integer32(); }};
+    return {name, [](T& self, const automation::Arguments&) -> automation::Variant { return self.place().*number; },
+        [](T& self, const automation::Arguments& arguments) { self.place().*number = arguments.value().integer32(); }};
 }
 
 template <class T>

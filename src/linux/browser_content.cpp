@@ -23,7 +23,7 @@ using automation::LocalObject;
 using automation::Variant;
 
 /// A larger page than anybody writes by hand; the rest of one is left out.
-constexpr qint64 largestPage = 16 * 1024 * 1024;
+constexpr qint64 largestPage = 16LL * 1024 * 1024;
 
 class ClosedBrowser final : public QTextBrowser {
 public:

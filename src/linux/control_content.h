@@ -23,7 +23,7 @@ public:
     /// At most one for each content. It may outlive the content, as the object may.
     [[nodiscard]] virtual QWidget* makeView(QWidget* parent) = 0;
     /// Calls back with the address of what is selected; a content without a selection never does.
-    virtual void hearSelection(std::function<void(const Text& address)> /*heard*/) { }
+    virtual void hearSelection(const std::function<void(const Text& address)>& /*heard*/) { }
 };
 
 /// The content for a class name such as "OWC.Spreadsheet"; null for a class that this platform does not have.

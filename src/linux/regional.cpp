@@ -94,10 +94,10 @@ public:
         }));
     }
 
-    template <std::size_t Count>
-    void takeNames(std::array<Text, Count>& names, UDateFormatSymbolType type, std::int32_t firstIndex) const
+    template <std::size_t count>
+    void takeNames(std::array<Text, count>& names, UDateFormatSymbolType type, std::int32_t firstIndex) const
     {
-        for (std::size_t index = 0; index < Count; ++index) {
+        for (std::size_t index = 0; index < count; ++index) {
             names[index] = name(type, static_cast<std::int32_t>(index) + firstIndex);
         }
     }

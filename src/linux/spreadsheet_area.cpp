@@ -4,6 +4,9 @@ namespace rf::native::spreadsheet {
 
 namespace {
 
+/// Of the alphabet, in which columns count.
+constexpr std::int32_t letters = u'Z' - u'A' + 1;
+
 /// One side of an address: a part that is not there is 0.
 struct Side {
     std::int32_t row = 0;
@@ -17,7 +20,7 @@ std::optional<Side> parseSide(TextView text)
     const auto skipSign = [&] { index += index < text.size() && text[index] == u'$' ? 1 : 0; };
     skipSign();
     for (; index < text.size() && upper(text[index]) >= u'A' && upper(text[index]) <= u'Z'; ++index) {
-        side.column = side.column * 26 + (upper(text[index]) - u'A' + 1);
+        side.column = side.column * letters + (upper(text[index]) - u'A' + 1);
         if (side.column > columnLimit)
             return std::nullopt;
     }
@@ -65,8 +68,8 @@ std::optional<Area> parseAddress(TextView text)
 Text columnName(std::int32_t column)
 {
     Text name;
-    for (; column > 0; column = (column - 1) / 26)
-        name.insert(name.begin(), static_cast<char16_t>(u'A' + (column - 1) % 26));
+    for (; column > 0; column = (column - 1) / letters)
+        name.insert(name.begin(), static_cast<char16_t>(u'A' + (column - 1) % letters));
     return name;
 }
 

@@ -19,9 +19,9 @@ public:
 
     [[nodiscard]] automation::Object object() const override { return spreadsheet::makeSpreadsheetObject(sheet_); }
     [[nodiscard]] QWidget* makeView(QWidget* parent) override { return new spreadsheet::View{sheet_, parent}; }
-    void hearSelection(std::function<void(const Text& address)> heard) override
+    void hearSelection(const std::function<void(const Text& address)>& heard) override
     {
-        sheet_->SelectionChange = std::move(heard);
+        sheet_->SelectionChange = heard;
     }
 
 private:

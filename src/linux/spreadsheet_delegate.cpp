@@ -1,5 +1,6 @@
 #include "linux/spreadsheet_delegate.h"
 
+#include "linux/qt_event.h"
 #include "linux/qt_text.h"
 
 #include <QAbstractItemView>
@@ -12,6 +13,10 @@
 namespace rf::native::spreadsheet {
 
 namespace {
+
+/// How much of its colour a tint lays over the cell, of 255.
+constexpr int selectionTint = 70;
+constexpr int gridlineTint = 45;
 
 constexpr int margin = 3;
 
@@ -68,8 +73,8 @@ void drawBox(QPainter& painter, const QRect& room, const QColor& color, bool tic
     painter.setPen(QPen{color, 1});
     painter.drawRoundedRect(box, 2, 2);
     if (ticked) {
-        const auto at = [&](double x, double y) { return box.topLeft() + QPointF{x * side, y * side}; };
-        const std::array tick{at(0.2, 0.5), at(0.42, 0.75), at(0.82, 0.25)};
+        const auto at = [&](const QPointF& share) { return box.topLeft() + share * side; };
+        const std::array tick{at({0.2, 0.5}), at({0.42, 0.75}), at({0.82, 0.25})};
         painter.setPen(QPen{color, 2});
         painter.drawPolyline(tick.data(), static_cast<int>(tick.size()));
     }
@@ -107,12 +112,12 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     const bool current = view != nullptr && view->currentIndex() == index;
     if ((option.state & QStyle::State_Selected) != 0 && !current) {
         QColor tint = option.palette.color(QPalette::Highlight);
-        tint.setAlpha(70);
+        tint.setAlpha(selectionTint);
         painter->fillRect(option.rect, tint);
     }
     drawText(*painter, option, index);
     drawLines(*painter, option.rect, cell, option.palette);
-    if (isFilterHeading(cell)) {
+    if (view != nullptr && isFilterHeading(cell)) {
         QStyleOption arrow;
         arrow.rect = filterArrow(option.rect);
         arrow.palette = option.palette;
@@ -150,7 +155,7 @@ void CellDelegate::drawLines(QPainter& painter, const QRect& rect, Cell cell, co
 {
     if (sheet_->appearance().gridlines) {
         QColor faint = palette.color(QPalette::Text);
-        faint.setAlpha(45);
+        faint.setAlpha(gridlineTint);
         painter.setPen(faint);
         painter.drawLine(lineOn(Edge::Right, rect));
         painter.drawLine(lineOn(Edge::Bottom, rect));
@@ -182,15 +187,15 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
 void CellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
 {
     // A change elsewhere in the sheet must not take away what is being typed.
-    auto* field = static_cast<QLineEdit*>(editor);
-    if (!field->isModified())
+    auto* field = qobject_cast<QLineEdit*>(editor);
+    if (field != nullptr && !field->isModified())
         field->setText(index.data(Qt::EditRole).toString());
 }
 
 void CellDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
 {
-    const auto* field = static_cast<QLineEdit*>(editor);
-    if (!field->isModified())
+    const auto* field = qobject_cast<QLineEdit*>(editor);
+    if (field == nullptr || !field->isModified())
         return;
     if (!model->setData(index, field->text()))
         refused();
@@ -204,8 +209,8 @@ bool CellDelegate::editorEvent(
     const Cell cell = model_.cellOf(index);
     if (event->type() != QEvent::MouseButtonPress || !isFilterHeading(cell))
         return false;
-    const auto* press = static_cast<QMouseEvent*>(event);
-    if (!filterArrow(option.rect).contains(press->position().toPoint()))
+    const auto& press = eventAs<QMouseEvent>(*event);
+    if (!filterArrow(option.rect).contains(press.position().toPoint()))
         return false;
     const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
     openFilter(cell, view->viewport()->mapToGlobal(option.rect.bottomLeft()));
@@ -217,7 +222,7 @@ bool CellDelegate::eventFilter(QObject* watched, QEvent* event)
     auto* editor = qobject_cast<QWidget*>(watched);
     if (event->type() != QEvent::KeyPress || editor == nullptr)
         return QStyledItemDelegate::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent*>(event)->key();
+    const int key = eventAs<QKeyEvent>(*event).key();
     const bool sideways = key == Qt::Key_Left || key == Qt::Key_Right;
     if (!isArrow(key) || (sideways && !arrowsLeave))
         return QStyledItemDelegate::eventFilter(watched, event);

@@ -1,5 +1,6 @@
 #include "linux/spreadsheet_grid.h"
 
+#include "linux/qt_event.h"
 #include "linux/qt_text.h"
 #include "linux/spreadsheet_filter_menu.h"
 
@@ -67,7 +68,7 @@ CellDelegate* GridView::makeDelegate(QObject* parent)
                                       : 0);
     };
     delegate->openFilter = [this](Cell heading, const QPoint& below) { openFilter(heading, below); };
-    delegate->refused = [this] { refuse(); };
+    delegate->refused = [] { refuse(); };
     delegate->changed = [this] { afterPersonsChange(); };
     return delegate;
 }
@@ -199,7 +200,7 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
 
 void GridView::afterPersonsChange() const { sheet_->tellOfPersonsChange(); }
 
-void GridView::refuse() const { QApplication::beep(); }
+void GridView::refuse() { QApplication::beep(); }
 
 void GridView::updateGeometries()
 {
@@ -223,7 +224,8 @@ bool GridView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event
 {
     QTableView* pane = index.isValid() ? panes_.paneOf(index) : nullptr;
     auto* drawing = pane == nullptr ? itemDelegate() : pane->itemDelegate();
-    static_cast<CellDelegate*>(drawing)->arrowsLeave = trigger == AnyKeyPressed;
+    if (auto* cells = dynamic_cast<CellDelegate*>(drawing))
+        cells->arrowsLeave = trigger == AnyKeyPressed;
     return pane == nullptr ? QTableView::edit(index, trigger, event) : FrozenPanes::edit(*pane, index, trigger, event);
 }
 
@@ -254,12 +256,12 @@ bool GridView::viewportEvent(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
         return QTableView::viewportEvent(event);
-    const auto* help = static_cast<QHelpEvent*>(event);
-    const QModelIndex index = indexAt(help->pos());
+    const auto& help = eventAs<QHelpEvent>(*event);
+    const QModelIndex index = indexAt(help.pos());
     const QString text = index.data().toString();
     const int width = index.isValid() ? QFontMetrics{model_.fontOf(model_.cellOf(index))}.horizontalAdvance(text) : 0;
     const bool whole = width + columnEdges < visualRect(index).width();
-    QToolTip::showText(help->globalPos(), whole ? QString{} : text.toHtmlEscaped(), viewport());
+    QToolTip::showText(help.globalPos(), whole ? QString{} : text.toHtmlEscaped(), viewport());
     return true;
 }
 

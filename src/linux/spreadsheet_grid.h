@@ -48,7 +48,7 @@ private:
     void tellSelection();
     void measureColumns();
     void afterPersonsChange() const;
-    void refuse() const;
+    static void refuse();
     /// What the keys do; false for a key that the grid has no use for.
     bool command(const QKeyEvent& event);
     void editInPlace();

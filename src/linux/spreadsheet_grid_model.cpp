@@ -33,7 +33,11 @@ Qt::Alignment alignmentOf(const Sheet& sheet, Cell cell)
 QColor colorOf(std::int32_t color) { return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF}; }
 
 /// Black or white, whichever can be read on the cell's own background.
-QColor readableOn(const QColor& background) { return background.lightness() > 127 ? Qt::black : Qt::white; }
+QColor readableOn(const QColor& background)
+{
+    constexpr int middle = 127;
+    return background.lightness() > middle ? Qt::black : Qt::white;
+}
 
 } // namespace
 

@@ -164,7 +164,7 @@ QTableView* FrozenPanes::paneOf(const QModelIndex& index) const
 bool FrozenPanes::edit(
     QTableView& pane, const QModelIndex& index, QAbstractItemView::EditTrigger trigger, QEvent* event)
 {
-    return static_cast<Pane&>(pane).edit(index, trigger, event);
+    return dynamic_cast<Pane&>(pane).edit(index, trigger, event);
 }
 
 } // namespace rf::native::spreadsheet

@@ -51,6 +51,7 @@ std::vector<std::int32_t> Sheet::sortedRows(const Area& area, std::int32_t colum
         return order == Order::Ascending ? compared < 0 : compared > 0;
     });
     std::vector<std::int32_t> rows;
+    rows.reserve(keys.size());
     for (const auto& [key, row] : keys)
         rows.push_back(row);
     return rows;

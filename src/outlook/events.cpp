@@ -121,8 +121,8 @@ static_assert(serves(itemsRoutes, event_interface::items));
 static_assert(serves(commandBarButtonRoutes, event_interface::commandBarButton));
 static_assert(serves(commandBarComboBoxRoutes, event_interface::commandBarComboBox));
 
-template <class Handlers, std::size_t Count>
-Connection connectRoutes(const Proxy& source, const EventInterface& events, const Route<Handlers> (&routes)[Count],
+template <class Handlers, std::size_t count>
+Connection connectRoutes(const Proxy& source, const EventInterface& events, const Route<Handlers> (&routes)[count],
     Handlers handlers, Where where)
 {
     auto handle

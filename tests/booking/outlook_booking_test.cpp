@@ -18,7 +18,7 @@ protected:
     }
     [[nodiscard]] outlook::AppointmentItem withOrders(TextView orders) const
     {
-        const auto item = newAppointment(u"Board", at(9), 90);
+        auto item = newAppointment(u"Board", at(9), 90);
         subFixLongProperty(*session, item, orders, u"strOrders");
         item.save();
         return item;

@@ -14,7 +14,7 @@ constexpr ui::MessageStyle questionStyle{ui::Buttons::OkCancel, ui::Icon::Questi
 /// A host that shows the calendar of a mailbox; the installation lies in the public folders.
 class RootLookup : public test::SessionTest {
 protected:
-    RootLookup()
+    void SetUp() override
     {
         runHost();
         root = host::ensureRoomfoldRoot(*store, u"Roomfold", u"file://server/pages/Roomfold.htm");

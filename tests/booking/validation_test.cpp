@@ -7,9 +7,9 @@ namespace {
 
 using test::at;
 
-const Text doubleBooking = u"No double-bookings are allowed in this calendar. Please select another time!";
-const Text projectMissing = u"Project mandatory";
-const Text recurring = u"Recurring appointments are not allowed in this calendar.";
+constexpr TextView doubleBooking = u"No double-bookings are allowed in this calendar. Please select another time!";
+constexpr TextView projectMissing = u"Project mandatory";
+constexpr TextView recurring = u"Recurring appointments are not allowed in this calendar.";
 
 class Validation : public test::RulesTest {
 protected:
