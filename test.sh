@@ -53,16 +53,26 @@ format() {
         xargs clang-format --dry-run --Werror
 }
 
-# run_tests LABEL LOG COMMAND...: runs one test program; its tests are counted from GoogleTest's own summary.
+# run_tests SYSTEM RUNNER FOLDER PROGRAM...: runs test programs one after the other; what each ended with is kept beside
+# its log. Meant for the background: several such rows fill the time in which a test waits.
 run_tests() {
-    local label=$1 log=$2 status
-    shift 2
-    timeout 600 "$@" > "$log" 2>&1
-    status=$?
-    if [ $status -ne 0 ]; then
+    local system=$1 runner=$2 folder=$3 program
+    shift 3
+    for program in "$@"; do
+        timeout 600 $runner "$folder/$program" > "build/logs/$system-${program%.exe}.log" 2>&1
+        echo $? > "build/logs/$system-${program%.exe}.status"
+    done
+}
+
+# tell_failures SYSTEM LABEL: what the test programs of a system found.
+tell_failures() {
+    local status log
+    for status in build/logs/"$1"-*_tests.status; do
+        [ -f "$status" ] && [ "$(cat "$status")" != 0 ] || continue
+        log=${status%.status}.log
         grep -aE '^\[  FAILED|Failure|ERROR|runtime error' "$log" | head -n 40
-        fail "$label: $(basename "$1") ended with status $status (log: $log)"
-    fi
+        fail "$2: $(basename "$log" .log | cut -d- -f2) ended with status $(cat "$status") (log: $log)"
+    done
 }
 
 # Qt makes its folder of the session there when the system has none for the user.
@@ -81,20 +91,15 @@ summary() {
               if (names != "") print "  " label names }' > "build/logs/summary-$label.txt"
 }
 
+rm -f build/logs/*_tests.status build/logs/summary-*.txt
+linux=no
+wine=no
 if ! install_packages $build_packages $test_packages; then
     fail "Linux build: packages are missing"
 else
     step "clang-format" format
     step "page of the phrases" scripts/phrase_page.sh --check
-    if step "build for Linux with sanitizers" build linux-asan; then
-        echo "== tests on Linux"
-        for program in unit_tests object_model_tests native_tests system_tests; do
-            run_tests Linux "build/logs/linux-$program.log" "build/linux-asan/bin/$program"
-        done
-        step "nothing left among the temporary files" nothing_left
-        summary Linux build/logs/linux-*_tests.log
-        step "random inputs, 10 s for each parser" scripts/fuzz.sh build/linux-asan 10
-    fi
+    step "build for Linux with sanitizers" build linux-asan && linux=yes
 fi
 
 # The 32-bit compiler is needed for the slow checks only.
@@ -102,15 +107,33 @@ if ! install_packages $windows_packages; then
     notes+=("skipped: every Windows test (install: apt-get install $windows_packages)")
 elif step "build for Windows, 64 bits" build windows-x86_64; then
     if install_packages $wine_packages; then
-        step "a Wine prefix" scripts/wine.sh wineboot --init
-        echo "== tests under Wine"
-        for program in unit_tests object_model_tests native_tests system_tests; do
-            run_tests Wine "build/logs/wine-$program.log" scripts/wine.sh "build/windows-x86_64/bin/$program.exe"
-        done
-        summary Wine build/logs/wine-*_tests.log
+        step "a Wine prefix" scripts/wine.sh wineboot --init && wine=yes
     else
         notes+=("skipped: unit_tests, object_model_tests, native_tests and system_tests under Wine (install: apt-get install $wine_packages)")
     fi
+fi
+
+echo "== tests"
+testing=$SECONDS
+if [ $linux = yes ]; then
+    run_tests linux "" build/linux-asan/bin unit_tests object_model_tests &
+    run_tests linux "" build/linux-asan/bin native_tests system_tests &
+fi
+if [ $wine = yes ]; then
+    run_tests wine scripts/wine.sh build/windows-x86_64/bin \
+        unit_tests.exe object_model_tests.exe native_tests.exe system_tests.exe &
+fi
+wait
+echo "   done in $((SECONDS - testing)) s"
+if [ $linux = yes ]; then
+    tell_failures linux Linux
+    summary Linux build/logs/linux-*_tests.log
+    step "nothing left among the temporary files" nothing_left
+    step "random inputs, 10 s for each parser" scripts/fuzz.sh build/linux-asan 10
+fi
+if [ $wine = yes ]; then
+    tell_failures wine Wine
+    summary Wine build/logs/wine-*_tests.log
 fi
 
 if [ $slow = yes ]; then

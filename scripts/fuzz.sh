@@ -14,22 +14,27 @@ megabytes=2048
 # A program that is ended by a sanitizer has to say which input it was, so it is ended by a signal that it can catch.
 export ASAN_OPTIONS=abort_on_error=1:hard_rss_limit_mb=$megabytes:detect_leaks=1 UBSAN_OPTIONS=abort_on_error=1:print_stacktrace=1
 
-status=0
-for program in "$1"/bin/*_fuzz; do
+# fuzz PROGRAM SECONDS: one program; its log is told when it has ended.
+fuzz() {
+    local program=$1 seconds=$2 name work seeds
     name=$(basename "$program" _fuzz)
-    work=$1/fuzz/$name
+    work=$folder/fuzz/$name
     mkdir -p "$work/corpus" "$work/found"
     seeds=tests/data/fuzz/$name
     [ -d "$seeds" ] || seeds=
-    echo "$name:"
-    if timeout -s KILL $(($2 + 120)) "$program" -max_total_time="$2" -timeout=25 -rss_limit_mb=$megabytes -max_len=20000 \
-        -print_final_stats=1 -artifact_prefix="$work/found/" "$work/corpus" $seeds > "$work/log" 2>&1; then
-        grep -hE 'inputs, seed|number_of_executed_units' "$work/log"
+    if timeout -s KILL $((seconds + 120)) "$program" -max_total_time="$seconds" -timeout=25 -rss_limit_mb=$megabytes \
+        -max_len=20000 -print_final_stats=1 -artifact_prefix="$work/found/" "$work/corpus" $seeds > "$work/log" 2>&1; then
+        echo "$name: $(grep -hE 'inputs, seed|number_of_executed_units' "$work/log")"
     else
-        status=1
         tail -n 40 "$work/log"
         echo "FAILED: $name; the input is in: $(ls -t "$work"/found/* 2> /dev/null | head -n 1)"
         echo "Again: $program THAT_FILE"
+        return 1
     fi
-done
-exit $status
+}
+
+folder=$1
+export folder megabytes
+export -f fuzz
+# As many at once as there are processors; each is a process of one thread.
+printf '%s\0' "$folder"/bin/*_fuzz | xargs -0 -P "$(nproc)" -I{} bash -c 'fuzz "$1" "$2"' fuzz {} "$2"
