@@ -1,6 +1,7 @@
 #include "orders/orders_form_fixture.h"
 
 #include "app/shutdown.h"
+#include "orders/cost_center.h"
 
 namespace rf::orders {
 namespace {
@@ -88,40 +89,63 @@ TEST_F(OrdersForm, WithoutSuppliesWritesTheOrdersTextItHeldAndTheBookerOnly)
     EXPECT_EQ(closed, 1);
 }
 
+/// Which parts of the form are shown.
+struct Parts {
+    bool order = false;
+    bool placeSettings = false;
+    CostCenterFields costCenter = CostCenterFields::None;
+};
+
+std::vector<Parts> allParts()
+{
+    std::vector<Parts> all;
+    for (const bool order : {false, true})
+        for (const bool placeSettings : {false, true})
+            for (const auto costCenter : {CostCenterFields::None, CostCenterFields::Whole, CostCenterFields::Halves})
+                all.push_back({order, placeSettings, costCenter});
+    return all;
+}
+
+void show(OrdersControls& controls, const Parts& parts)
+{
+    if (!parts.order)
+        controls.leaveOutOrder();
+    if (!parts.placeSettings)
+        controls.widenComment();
+    for (auto* option : controls.optPlaceSetting)
+        option->setVisible(parts.placeSettings);
+    controls.lblCC.setVisible(true);
+    if (parts.costCenter == CostCenterFields::Whole)
+        controls.showWholeCostCenter();
+    if (parts.costCenter == CostCenterFields::Halves)
+        controls.showHalvesOfCostCenter();
+}
+
+bool isApart(const ui::Bounds& one, const ui::Bounds& other)
+{
+    return one.left + one.width <= other.left || other.left + other.width <= one.left
+        || one.top + one.height <= other.top || other.top + other.height <= one.top;
+}
+
 TEST_F(OrdersForm, ControlsDoNotOverlapWhicheverAreShown)
 {
-    for (const bool ordered : {false, true})
-        for (const TextView places : {u"", u"1\r\n2\r\n3\r\n4"})
-            for (const TextView format : {u"1", u"XXX-XXX", u"0"}) {
-                const auto made = toolkit.makeFormWindow();
-                OrdersControls controls{*made};
-                if (!ordered)
-                    controls.leaveOutOrder();
-                if (places.empty())
-                    controls.widenComment();
-                for (auto* option : controls.optPlaceSetting)
-                    option->setVisible(!places.empty());
-                controls.lblCC.setVisible(true);
-                if (format == u"1")
-                    controls.showWholeCostCenter();
-                if (format == u"XXX-XXX")
-                    controls.showHalvesOfCostCenter();
-                auto shown = std::vector<const ui::Control*>{};
-                for (const auto& control : window().controls())
-                    if (control->visible())
-                        shown.push_back(control.get());
-                for (const auto* one : shown) {
-                    const auto a = one->bounds();
-                    EXPECT_LE(a.left + a.width, controls.extent().width) << toUtf8(one->name());
-                    EXPECT_LE(a.top + a.height, controls.extent().height) << toUtf8(one->name());
-                    for (const auto* other : shown) {
-                        const auto b = other->bounds();
-                        const bool apart = one == other || a.left + a.width <= b.left || b.left + b.width <= a.left
-                            || a.top + a.height <= b.top || b.top + b.height <= a.top;
-                        EXPECT_TRUE(apart) << toUtf8(one->name()) << " and " << toUtf8(other->name());
-                    }
-                }
-            }
+    for (const Parts& parts : allParts()) {
+        const auto made = toolkit.makeFormWindow();
+        OrdersControls controls{*made};
+        show(controls, parts);
+        std::vector<const ui::Control*> shown;
+        for (const auto& control : window().controls())
+            if (control->visible())
+                shown.push_back(control.get());
+        for (auto one = shown.begin(); one != shown.end(); ++one) {
+            const auto bounds = (*one)->bounds();
+            EXPECT_LE(bounds.left + bounds.width, controls.extent().width) << toUtf8((*one)->name());
+            EXPECT_LE(bounds.top + bounds.height, controls.extent().height) << toUtf8((*one)->name());
+            for (auto other = std::next(one); other != shown.end(); ++other)
+                EXPECT_TRUE(isApart(bounds, (*other)->bounds()))
+                    << toUtf8((*one)->name()) << " and " << toUtf8((*other)->name());
+        }
+    }
 }
 
 TEST_F(OrdersForm, ShowsOnlyTheFirstFourOfFivePlaceSettings)

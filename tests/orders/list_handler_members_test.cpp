@@ -169,7 +169,7 @@ TEST_F(ListHandlerMembers, NameTheKindOfAValueInTheTrace)
         {Variant{Currency::fromInteger(2)}, u"Currency"}, {Variant{Date{1}}, u"Date"}, {Variant{u"x"}, u"String"},
         {Variant{automation::Array::list({1, 2})}, u"Variant()"}};
     for (const auto& [value, kind] : kinds) {
-        usesOf([&](auto& it) { it.SetValue(u"A1", value); });
+        usesOf([&written = value](auto& it) { it.SetValue(u"A1", written); });
         EXPECT_EQ(trace(), u"Setting value of cells: A1 to a value of type " + Text{kind});
     }
 }
@@ -203,7 +203,7 @@ TEST_F(ListHandlerMembers, KnowATickedBoxFromAnythingElse)
     for (const auto& [value, ticked] : {std::pair{Variant{u"\u00FE"}, true}, std::pair{Variant{u"\u00A8"}, false},
              std::pair{Variant{}, false}, std::pair{Variant{254}, false}}) {
         notes->answers[u"Range(C2).Value"] = value;
-        usesOf([&](auto& it) { EXPECT_EQ(it.GetChecked(u"C2"), ticked); });
+        usesOf([expected = ticked](auto& it) { EXPECT_EQ(it.GetChecked(u"C2"), expected); });
     }
     EXPECT_EQ(trace(), u"Reading the value of cell C2");
 }
