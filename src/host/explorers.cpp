@@ -55,6 +55,17 @@ void Explorer::activate()
     events_.raise(u"Activate");
 }
 
+void Explorer::cameToFront()
+{
+    const auto keptAlive = shared_from_this();
+    const auto owner = owner_.lock();
+    // That a program has brought it there is known already.
+    if (closed_ || owner == nullptr || owner->active() == keptAlive)
+        return;
+    owner->activate(keptAlive);
+    events_.raise(u"Activate");
+}
+
 void Explorer::close()
 {
     const auto keptAlive = shared_from_this();
@@ -77,8 +88,7 @@ std::span<const LocalMember<Explorer>> Explorer::members()
         LocalMember<Explorer>{u"CurrentFolder",
             [](Explorer& self, const Arguments&) -> Variant { return self.folder_; },
             [](Explorer& self, const Arguments& arguments) { self.switchTo(argumentAs<Folder>(arguments.value())); }},
-        LocalMember<Explorer>{u"Caption",
-            [](Explorer& self, const Arguments&) -> Variant { return self.folder_->record().name + u" - Outlook"; }},
+        LocalMember<Explorer>{u"Caption", [](Explorer& self, const Arguments&) -> Variant { return self.caption(); }},
         LocalMember<Explorer>{
             u"CommandBars", [](Explorer& self, const Arguments&) -> Variant { return self.commandBars_; }},
         placeMember<Explorer, &WindowPlace::left>(u"Left"),

@@ -31,11 +31,17 @@ public:
     void switchTo(std::shared_ptr<Folder> folder);
     /// Brings the window to the front.
     void activate();
+    /// A person has brought the window to the front.
+    void cameToFront();
     /// Nothing happens when it is closed.
     void close();
     [[nodiscard]] bool isClosed() const { return closed_; }
     [[nodiscard]] CommandBars& commandBars() const { return *commandBars_; }
     [[nodiscard]] WindowPlace& place() { return place_; }
+    /// A program has assigned a place.
+    void placed() const { windows_.explorerChanged(*this); }
+    /// As the window's title bar has it.
+    [[nodiscard]] Text caption() const { return folder_->record().name + u" - Outlook"; }
 
     [[nodiscard]] static std::span<const automation::LocalMember<Explorer>> members();
 

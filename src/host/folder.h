@@ -22,6 +22,7 @@ public:
     }
 
     [[nodiscard]] FolderId id() const { return id_; }
+    [[nodiscard]] const std::shared_ptr<Model>& model() const { return model_; }
     /// Error `notFound` when the folder is gone.
     [[nodiscard]] FolderRecord record() const;
     /// Two objects of one folder are the same to a program.

@@ -2,6 +2,7 @@
 
 #include "host/host_error.h"
 #include "host/model.h"
+#include "outlook/constants.h"
 #include "outlook/event_interfaces.h"
 
 #include <algorithm>
@@ -16,8 +17,28 @@ using automation::Variant;
 
 namespace {
 
-/// The pages of an appointment's form.
-constexpr std::array<TextView, 2> formPages{u"Appointment", u"Scheduling"};
+/// The forms by the message classes that they show.
+struct Form {
+    TextView messageClass;
+    /// What the caption calls it.
+    TextView name;
+    std::span<const TextView> pages;
+};
+
+constexpr std::array<TextView, 2> appointmentPages{u"Appointment", u"Scheduling"};
+constexpr std::array<TextView, 1> messagePages{u"Message"};
+/// The first one serves every class that begins as its own does; the last one all others.
+constexpr std::array forms{Form{outlook::message_class::appointment, u"Appointment", appointmentPages},
+    Form{outlook::message_class::recurrenceException, u"Appointment", appointmentPages},
+    Form{outlook::message_class::meetingRequest, u"Meeting", appointmentPages},
+    Form{outlook::message_class::post, u"Discussion", messagePages}, Form{u"", u"Message", messagePages}};
+
+const Form& formOf(TextView messageClass)
+{
+    return *std::ranges::find_if(forms, [&](const Form& form) {
+        return equalIgnoringCase(messageClass.substr(0, form.messageClass.size()), form.messageClass);
+    });
+}
 
 } // namespace
 
@@ -32,12 +53,14 @@ Inspector::Inspector(std::weak_ptr<Inspectors> owner, std::shared_ptr<Item> item
 Text Inspector::caption() const
 {
     const Text& subject = item_->record().subject;
-    return (subject.empty() ? Text{u"Untitled"} : subject) + u" - Appointment";
+    const Form& form = formOf(item_->record().messageClass);
+    return (subject.empty() ? Text{u"Untitled"} : subject) + u" - " + Text{form.name};
 }
 
 std::vector<Text> Inspector::pages() const
 {
-    std::vector<Text> pages{formPages.begin(), formPages.end()};
+    const auto all = formOf(item_->record().messageClass).pages;
+    std::vector<Text> pages{all.begin(), all.end()};
     std::erase_if(pages, [&](const Text& page) {
         return std::ranges::any_of(hiddenPages_, [&](const Text& hidden) { return equalIgnoringCase(hidden, page); });
     });
@@ -68,6 +91,17 @@ void Inspector::activate()
     events_.raise(u"Activate");
 }
 
+void Inspector::cameToFront()
+{
+    const auto keptAlive = shared_from_this();
+    const auto owner = owner_.lock();
+    // That a program has brought it there is known already.
+    if (closed_ || owner == nullptr || owner->active() == keptAlive)
+        return;
+    owner->activate(keptAlive);
+    events_.raise(u"Activate");
+}
+
 void Inspector::close(CloseMode mode)
 {
     const auto keptAlive = shared_from_this();
@@ -92,9 +126,12 @@ void Inspector::finish()
     events_.raise(u"Close");
 }
 
+void Inspector::placed() const { item_->model().windows().inspectorChanged(*this); }
+
 void Inspector::hideFormPage(const Text& name)
 {
-    if (std::ranges::none_of(formPages, [&](TextView page) { return equalIgnoringCase(page, name); }))
+    const auto all = formOf(item_->record().messageClass).pages;
+    if (std::ranges::none_of(all, [&](TextView page) { return equalIgnoringCase(page, name); }))
         throw hostError(host_error::badArgument, u"The form has no page of the name \"" + name + u"\".");
     hiddenPages_.push_back(name);
     item_->model().windows().inspectorChanged(*this);
@@ -139,6 +176,20 @@ std::span<const LocalMember<Inspector>> Inspector::members()
 std::shared_ptr<Inspector> Inspectors::find(const Item& item) const
 {
     const auto found = std::ranges::find_if(inspectors_, [&](const auto& window) { return &window->item() == &item; });
+    return found == inspectors_.end() ? nullptr : *found;
+}
+
+std::shared_ptr<Inspector> Inspectors::findStored(Item& item) const
+{
+    const auto originalOf = [](const Item& one) {
+        return one.occurrence() ? std::optional{one.occurrence()->original.seconds()} : std::nullopt;
+    };
+    const auto found = std::ranges::find_if(inspectors_, [&](const auto& window) {
+        Item& shown = window->item();
+        return &shown == &item
+            || (item.record().id != ItemId::None && shown.record().id == item.record().id
+                && originalOf(shown) == originalOf(item));
+    });
     return found == inspectors_.end() ? nullptr : *found;
 }
 

@@ -28,6 +28,8 @@ public:
     /// Shows the window and brings it to the front; its first time announces it to those who wait for new windows.
     void display();
     void activate();
+    /// A person has brought the window to the front.
+    void cameToFront();
     /// Closes the item and, unless a handler or the person refuses, the window. Nothing happens when it is closed.
     void close(CloseMode mode);
     /// The item is gone, and its window with it: nobody is asked, there is nothing left to keep.
@@ -40,6 +42,8 @@ public:
     [[nodiscard]] const std::vector<Text>& hiddenPages() const { return hiddenPages_; }
     [[nodiscard]] CommandBars& commandBars() const { return *commandBars_; }
     [[nodiscard]] WindowPlace& place() { return place_; }
+    /// A program has assigned a place.
+    void placed() const;
 
     [[nodiscard]] static std::span<const automation::LocalMember<Inspector>> members();
 
@@ -68,6 +72,8 @@ public:
     [[nodiscard]] std::shared_ptr<Inspector> windowOf(const std::shared_ptr<Item>& item);
     /// The window of an item object; nothing when it has none.
     [[nodiscard]] std::shared_ptr<Inspector> find(const Item& item) const;
+    /// The window that shows the stored item, by whatever object; nothing when there is none.
+    [[nodiscard]] std::shared_ptr<Inspector> findStored(Item& item) const;
     [[nodiscard]] std::shared_ptr<Inspector> active() const { return active_; }
     [[nodiscard]] std::size_t count() const { return inspectors_.size(); }
 

@@ -12,6 +12,8 @@ namespace rf::host {
 struct WindowPlace {
     static constexpr std::int32_t usualWidth = 800;
     static constexpr std::int32_t usualHeight = 600;
+    static constexpr std::int32_t maximized = 0;
+    static constexpr std::int32_t minimized = 1;
     static constexpr std::int32_t normal = 2;
 
     std::int32_t left = 0;
@@ -19,6 +21,8 @@ struct WindowPlace {
     std::int32_t width = usualWidth;
     std::int32_t height = usualHeight;
     std::int32_t state = normal;
+
+    friend bool operator==(const WindowPlace&, const WindowPlace&) = default;
 };
 
 /// The member of a window that reads and assigns one of these numbers.
@@ -26,7 +30,10 @@ template <class T, std::int32_t WindowPlace::*number>
 constexpr automation::LocalMember<T> placeMember(TextView name)
 {
     return {name, [](T& self, const automation::Arguments&) -> automation::Variant { return self.place().*number; },
-        [](T& self, const automation::Arguments& arguments) { self.place().*number = arguments.value().integer32(); }};
+        [](T& self, const automation::Arguments& arguments) {
+            self.place().*number = arguments.value().integer32();
+            self.placed();
+        }};
 }
 
 template <class T>
@@ -39,6 +46,7 @@ constexpr automation::LocalMember<T> windowStateMember()
             if (state < 0 || state > WindowPlace::normal)
                 throw hostError(host_error::badArgument, u"A window has no such state.");
             self.place().state = state;
+            self.placed();
         }};
 }
 

@@ -6,11 +6,13 @@
 #include "linux/rfhost/serve.h"
 #include "outlook/constants.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <memory>
 #include <pwd.h>
 #include <unistd.h>
 
@@ -38,10 +40,12 @@ Commands:
   show ID...
         show items with all their properties
   serve [--user NAME] [--show FOLDER] [--program FILE] [--accept-alerts]
-        serve programs on the session bus until told to end; when the root
-        folder is shown, the program in FILE is started beside the host.
-        Without a screen alerts go to standard error and are declined, or
-        agreed to with --accept-alerts
+        [--windows]
+        serve programs on the session bus until told to end, or until the last
+        window is closed; when the root folder is shown, the program in FILE is
+        started beside the host. Without a screen there are no windows, unless
+        --windows asks for them, and alerts go to standard error and are
+        declined, or agreed to with --accept-alerts
   activation [--user NAME] [--program FILE] [--into DIRECTORY]
         write the file by which the session bus starts this host with this
         store when a program asks for it and none runs
@@ -80,10 +84,10 @@ std::string fullName()
 
 int serveCommand(const host::CommandContext& context, std::span<const std::string> arguments)
 {
-    const host::CommandLine line{arguments, {"--user", "--show", "--program"}, {"--accept-alerts"}};
+    const host::CommandLine line{arguments, {"--user", "--show", "--program"}, {"--accept-alerts", "--windows"}};
     return native::serve(context,
         {fromUtf8(line.value("--user", fullName())), line.value("--show", ""), line.value("--program", ""),
-            line.has("--accept-alerts")});
+            line.has("--accept-alerts"), native::wantsWindows(line.has("--windows"))});
 }
 
 /// The bus passes no environment of the asker on, so the store is named in full.
@@ -117,11 +121,26 @@ int run(const host::Command command, const fs::path& file, std::span<const std::
     return command({store, *regional, clock, std::cout, std::cerr, isatty(STDERR_FILENO) != 0}, arguments);
 }
 
+/// Only a host that serves has windows; all else works without the libraries of a screen being asked for one.
+std::unique_ptr<QCoreApplication> makeApplication(int& count, char** list)
+{
+    const std::vector<std::string> words{list + 1, list + count};
+    const bool serves = std::ranges::find(words, "serve") != words.end();
+    if (!serves || !native::wantsWindows(std::ranges::find(words, "--windows") != words.end()))
+        return std::make_unique<QCoreApplication>(count, list);
+    auto application = std::make_unique<QApplication>(count, list);
+    QApplication::setApplicationName(QStringLiteral("rfhost"));
+    QApplication::setApplicationDisplayName(QString{});
+    // The host decides when it ends: a dialog may be the last window for a moment.
+    QApplication::setQuitOnLastWindowClosed(false);
+    return application;
+}
+
 } // namespace
 
 int main(int argumentCount, char** argumentList)
 {
-    const QCoreApplication application{argumentCount, argumentList};
+    const auto application = makeApplication(argumentCount, argumentList);
     std::vector<std::string> words{argumentList + 1, argumentList + argumentCount};
     fs::path store = defaultStore();
     if (words.size() >= 2 && words[0] == "--store") {

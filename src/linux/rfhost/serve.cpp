@@ -1,11 +1,13 @@
 #include "linux/rfhost/serve.h"
 
 #include "host/application.h"
+#include "host/home_page_content.h"
 #include "host/installation.h"
 #include "host/recurrence.h"
 #include "linux/dbus_server.h"
 #include "linux/rfhost/home_page.h"
 #include "linux/rfhost/unattended_windows.h"
+#include "linux/rfhost/windows/qt_windows.h"
 #include "outlook/constants.h"
 #include "outlook/event_interfaces.h"
 
@@ -63,10 +65,27 @@ private:
 std::optional<host::FolderRecord> roomfoldRoot(const host::Store& store)
 {
     const auto folders = store.folders();
-    const auto found = std::ranges::find_if(
-        folders, [](const host::FolderRecord& folder) { return upper(folder.webViewUrl).ends_with(u"ROOMFOLD.HTM"); });
+    const auto found = std::ranges::find_if(folders, host::hasHomePage);
     return found == folders.end() ? std::nullopt : std::optional{*found};
 }
+
+/// The windows of a host, on a screen or without one.
+class Windows {
+public:
+    Windows(const host::CommandContext& context, const ServeOptions& options)
+    {
+        if (options.windows)
+            all_ = std::make_unique<QtWindows>();
+        else
+            all_ = std::make_unique<UnattendedWindows>(context.problems, options.acceptAlerts);
+    }
+    [[nodiscard]] host::HostWindows& any() const { return *all_; }
+    /// Null without a screen.
+    [[nodiscard]] QtWindows* onScreen() const { return dynamic_cast<QtWindows*>(all_.get()); }
+
+private:
+    std::unique_ptr<host::HostWindows> all_;
+};
 
 void follow(host::Model& model, std::ostream& problems)
 {
@@ -79,13 +98,24 @@ void follow(host::Model& model, std::ostream& problems)
 
 } // namespace
 
+bool wantsWindows(bool asked)
+{
+    const QString platform = qEnvironmentVariable("QT_QPA_PLATFORM");
+    // These draw for nobody to see; a test asks for their windows.
+    if (asked || platform == QStringLiteral("offscreen") || platform == QStringLiteral("minimal"))
+        return asked;
+    return !platform.isEmpty() || !qEnvironmentVariableIsEmpty("DISPLAY")
+        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
 int serve(const host::CommandContext& context, const ServeOptions& options)
 {
     host::ensureMailbox(context.store, options.user);
-    UnattendedWindows windows{context.problems, options.acceptAlerts};
+    const Windows windows{context, options};
     const auto recurrence = host::makeRecurrenceEngine();
-    const auto application = host::Application::make(
-        {context.store, context.regional, context.clock, windows, recurrence.get()}, {u"11.0.8169", options.user});
+    const auto application
+        = host::Application::make({context.store, context.regional, context.clock, windows.any(), recurrence.get()},
+            {u"11.0.8169", options.user});
 
     const auto bridge = dbus::Bridge::connect(outlook::allEventInterfaces());
     if (bridge == nullptr) {
@@ -99,8 +129,16 @@ int serve(const host::CommandContext& context, const ServeOptions& options)
         return 1;
     }
 
-    const HomePage homePage{*application, options.program};
+    HomePage homePage{*application, options.program};
     application->explorers().setFolderShown([&](const host::FolderRecord& folder) { homePage.folderShown(folder); });
+    const auto end = [&] {
+        application->quit();
+        QCoreApplication::quit();
+    };
+    if (auto* const shown = windows.onScreen()) {
+        shown->setHomePage(&homePage);
+        shown->setLastClosed(end);
+    }
     const auto first = options.folder.empty() ? roomfoldRoot(context.store)
                                               : std::optional{host::requireFolder(context.store, options.folder)};
     if (first)
@@ -122,13 +160,12 @@ int serve(const host::CommandContext& context, const ServeOptions& options)
     ownChanges.setSingleShot(true);
     QObject::connect(&ownChanges, &QTimer::timeout, followNow);
     application->model().setChanged([&] { ownChanges.start(0); });
-    const EndSignals untilSignal{[&] {
-        application->quit();
-        QCoreApplication::quit();
-    }};
+    const EndSignals untilSignal{end};
     context.out << "rfhost serves " << toUtf8(options.user) << " on the session bus." << std::endl;
     const int status = QCoreApplication::exec();
     application->model().setChanged([] {});
+    if (auto* const shown = windows.onScreen())
+        shown->clear();
     return status;
 }
 

@@ -15,7 +15,12 @@ struct ServeOptions {
     std::filesystem::path program;
     /// Whether alerts are answered with the button that agrees, where no screen shows them.
     bool acceptAlerts = false;
+    /// Whether there are windows. They need a QApplication.
+    bool windows = false;
 };
+
+/// Whether a host has windows: where there is a screen, or where they are asked for though nobody sees them.
+[[nodiscard]] bool wantsWindows(bool asked);
 
 /// Serves the object model on the session bus until it is told to end by a signal or a program. The exit status.
 int serve(const host::CommandContext& context, const ServeOptions& options);

@@ -1,0 +1,60 @@
+#include "linux/rfhost/windows/item_list_pane.h"
+
+#include "host/calendar_entries.h"
+#include "host/item_factory.h"
+#include "linux/qt_text.h"
+#include "linux/rfhost/windows/person.h"
+#include "linux/rfhost/windows/qt_date.h"
+
+#include <QLabel>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace rf::native {
+
+using host::ItemId;
+
+ItemListPane::ItemListPane(std::shared_ptr<host::Model> model)
+    : model_(std::move(model))
+    , title_(new QLabel)
+    , list_(new QTreeWidget)
+{
+    list_->setObjectName(QStringLiteral("items"));
+    list_->setAccessibleName(QStringLiteral("Items"));
+    list_->setRootIsDecorated(false);
+    list_->setUniformRowHeights(true);
+    list_->setHeaderLabels({QStringLiteral("Subject"), QStringLiteral("To"), QStringLiteral("Changed")});
+    auto* const layout = new QVBoxLayout{this};
+    layout->addWidget(title_);
+    layout->addWidget(list_);
+    connect(list_, &QTreeWidget::itemActivated, this, [this] { later(this, [this] { open(); }); });
+}
+
+void ItemListPane::show(const host::FolderRecord& folder)
+{
+    title_->setText(qtText(folder.name));
+    list_->clear();
+    auto ids = model_->store().items(folder.id);
+    for (auto id = ids.rbegin(); id != ids.rend(); ++id) {
+        const auto record = model_->store().read(*id);
+        if (!record)
+            continue;
+        auto* const item = new QTreeWidgetItem{list_,
+            {qtText(record->subject), qtText(record->to),
+                shortDayText(record->lastModificationTime) + QLatin1Char{' '}
+                    + timeText(record->lastModificationTime)}};
+        item->setData(0, Qt::UserRole, static_cast<qlonglong>(*id));
+    }
+    list_->resizeColumnToContents(0);
+}
+
+void ItemListPane::open()
+{
+    const auto* const chosen = list_->currentItem();
+    if (chosen == nullptr)
+        return;
+    if (auto record = model_->store().read(ItemId{chosen->data(0, Qt::UserRole).toLongLong()}))
+        host::openItem(*host::itemOf(host::makeItem(model_, std::move(*record))));
+}
+
+} // namespace rf::native
