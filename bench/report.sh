@@ -181,6 +181,8 @@ saveNewItem/1000000|appointment saved in 1,000,000: p50|store_p50_us|us|-
 saveNewItem/1000000|    p50 against a plain insert|ratio_p50|times|< 2
 readPropertyAgainstEmptyCall|property read over D-Bus|read_us|us|-
 readPropertyAgainstEmptyCall|    against an empty call|ratio|times|< 1.5
+drawWeek/1000|week drawn from 1,000 bookings|time|ms|-
+drawWeek/100000|week drawn from 100,000 bookings|time|ms|< 50
 importConference|conference-2019.ics imported|time|ms|< 1000
 ROWS
 exit $status

@@ -64,7 +64,7 @@ AppointmentTimes draggedTimes(const AppointmentTimes& times, DragPart part, cons
 AppointmentTimes chosenTimes(const DragPath& path, int minutesOfASlot)
 {
     const std::int64_t slot = minutesOfASlot * minuteSeconds;
-    const auto [first, last] = std::minmax(floorTo(path.from.seconds(), slot), floorTo(path.to.seconds(), slot));
+    const auto [first, last] = std::minmax({floorTo(path.from.seconds(), slot), floorTo(path.to.seconds(), slot)});
     return {Date::fromSeconds(first), Date::fromSeconds(last + slot), slot >= daySeconds};
 }
 

@@ -1,6 +1,9 @@
 #include "host/entry_id.h"
 #include "host/installation.h"
+#include "host/window_place.h"
+#include "linux/rfhost/serve.h"
 #include "outlook/application.h"
+#include "outlook/appointment_item.h"
 #include "outlook/events.h"
 
 #include "dbus_fixture.h"
@@ -78,6 +81,53 @@ TEST_F(HostProgram, TellsWithinASecondOfWhatAnotherProcessSaves)
     elsewhere.save(item);
     EXPECT_TRUE(dbus::runUntil([&] { return !added.empty(); }, std::chrono::seconds{1}));
     EXPECT_EQ(added, std::vector<Text>{u"dropped"});
+}
+
+TEST_F(HostProgram, HasWindowsWhenTheyAreAskedFor)
+{
+    const dbus::QtProcess process;
+    host = std::make_unique<Child>(
+        std::vector<std::string>{RF_HOST_PROGRAM, "serve", "--user", "Jane Doe", "--windows"});
+    LinuxClassRegistry classes;
+    outlook::Application application;
+    ASSERT_TRUE(dbus::runUntil([&] {
+        return dbus::errorNumberOf([&] {
+            return application = outlook::Application{classes.running(outlook::applicationClass)};
+        }) == 0;
+    }));
+    const auto explorer = application.activeExplorer();
+    const auto usual = explorer.width();
+    explorer.setWidth(usual + 100);
+    const auto appointment = application.createItem(outlook::ItemType::Appointment).as<outlook::AppointmentItem>();
+    appointment.display();
+    // A window of the screen has told its place; a host without one keeps the usual width of any window.
+    EXPECT_GT(usual, rf::host::WindowPlace::usualWidth);
+    EXPECT_EQ(explorer.width(), usual + 100);
+    EXPECT_EQ(application.inspectors().count(), 1);
+    host->terminate();
+    EXPECT_EQ(host->waitForEnd(5s), 0);
+}
+
+TEST(WindowsOfTheHost, AreShownWhereThereIsAScreen)
+{
+    const rf::test::EnvironmentVariable display{"DISPLAY", ""};
+    const rf::test::EnvironmentVariable wayland{"WAYLAND_DISPLAY", ""};
+    const rf::test::EnvironmentVariable platform{"QT_QPA_PLATFORM", ""};
+    EXPECT_FALSE(wantsWindows(false));
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        const rf::test::EnvironmentVariable screen{name, ":0"};
+        EXPECT_TRUE(wantsWindows(false)) << name;
+    }
+}
+
+TEST(WindowsOfTheHost, AreShownToNobodyOnlyWhenTheyAreAskedFor)
+{
+    const rf::test::EnvironmentVariable display{"DISPLAY", ":0"};
+    for (const char* nobody : {"offscreen", "minimal"}) {
+        const rf::test::EnvironmentVariable platform{"QT_QPA_PLATFORM", nobody};
+        EXPECT_FALSE(wantsWindows(false)) << nobody;
+        EXPECT_TRUE(wantsWindows(true)) << nobody;
+    }
 }
 
 TEST_F(HostProgram, RefusesToServeABusThatIsServed)

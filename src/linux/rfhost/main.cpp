@@ -133,6 +133,7 @@ std::unique_ptr<QCoreApplication> makeApplication(int& count, char** list)
     QApplication::setApplicationDisplayName(QString{});
     // The host decides when it ends: a dialog may be the last window for a moment.
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setQuitLockEnabled(false);
     return application;
 }
 

@@ -2,9 +2,9 @@
 
 #include "host/alert_answers.h"
 #include "linux/qt_text.h"
+#include "linux/rfhost/windows/person.h"
 #include "outlook/constants.h"
 
-#include <QApplication>
 #include <QMessageBox>
 #include <QPointer>
 
@@ -58,7 +58,7 @@ std::int32_t showAlert(const Text& title, const Text& message, std::int32_t butt
 {
     const host::AlertChoice choice = host::alertChoice(buttons);
     // The window in front may close meanwhile, and the box with it.
-    const QPointer box{new QMessageBox{QApplication::activeWindow()}};
+    const QPointer box{new QMessageBox{windowInFront()}};
     box->setObjectName(QStringLiteral("alert"));
     box->setWindowTitle(qtText(title));
     box->setTextFormat(Qt::PlainText);

@@ -47,7 +47,9 @@ QDateEdit* makeDayBox(const char* objectName, const char* accessibleName)
 
 QTimeEdit* makeTimeBox(const char* objectName, const char* accessibleName)
 {
-    return named(new QTimeEdit, objectName, accessibleName);
+    auto* const box = named(new QTimeEdit, objectName, accessibleName);
+    box->setDisplayFormat(timeFormat());
+    return box;
 }
 
 QLayout* inARow(std::initializer_list<QWidget*> widgets)
@@ -123,7 +125,7 @@ AppointmentForm::AppointmentForm(std::shared_ptr<host::Item> item)
 void AppointmentForm::build()
 {
     layout_->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    layout_->addRow(QStringLiteral("&Subject:"), subject_);
+    layout_->addRow(QStringLiteral("Su&bject:"), subject_);
     layout_->addRow(QStringLiteral("L&ocation:"), location_);
     layout_->addRow(QStringLiteral("&Attendees:"), attendees_);
     layout_->addRow(QStringLiteral("S&tart:"), inARow({startDay_, startTime_, allDay_}));

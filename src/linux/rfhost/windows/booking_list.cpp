@@ -2,6 +2,7 @@
 
 #include "linux/qt_text.h"
 #include "linux/rfhost/windows/qt_date.h"
+#include "linux/rfhost/windows/roomy_rows.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -29,6 +30,7 @@ BookingList::BookingList(CalendarActions actions)
     setObjectName(QStringLiteral("bookings"));
     setRootIsDecorated(false);
     setUniformRowHeights(true);
+    RoomyRows::giveTo(*this);
     setAlternatingRowColors(true);
     setHeaderLabels({QStringLiteral("Start"), QStringLiteral("End"), QStringLiteral("Subject"),
         QStringLiteral("Location"), QStringLiteral("Categories")});

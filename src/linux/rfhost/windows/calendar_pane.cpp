@@ -75,8 +75,6 @@ QAction* CalendarPane::addButton(
 {
     auto* const action = bar.addAction(QLatin1StringView{name});
     action->setShortcut(key);
-    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    addAction(action);
     action->setToolTip(QStringLiteral("%1 (%2)").arg(action->text(), key.toString(QKeySequence::NativeText)));
     connect(action, &QAction::triggered, this, [this, step] { later(this, step); });
     auto* const button = dynamic_cast<QToolButton*>(bar.widgetForAction(action));
@@ -91,12 +89,15 @@ void CalendarPane::addWays(QToolBar& bar)
     addButton(bar, "New", QKeySequence::New, [this] { create(face().chosenTimes()); });
     bar.addSeparator();
     addButton(bar, "Today", {Qt::ALT | Qt::Key_Home}, [this] { setDay(host::dayOf(model_->clock().now())); });
-    addButton(bar, "Previous", {Qt::ALT | Qt::Key_PageUp}, [this] {
-        setDay(host::steppedDay(view_, day_, -1));
-    })->setIcon(style()->standardIcon(QStyle::SP_ArrowLeft));
-    addButton(bar, "Next", {Qt::ALT | Qt::Key_PageDown}, [this] {
-        setDay(host::steppedDay(view_, day_, 1));
-    })->setIcon(style()->standardIcon(QStyle::SP_ArrowRight));
+    const auto addStep = [&](const char* name, Qt::Key key, Qt::ArrowType arrow, int steps) {
+        auto* const action
+            = addButton(bar, name, {Qt::ALT | key}, [this, steps] { setDay(host::steppedDay(view_, day_, steps)); });
+        auto* const button = dynamic_cast<QToolButton*>(bar.widgetForAction(action));
+        button->setArrowType(arrow);
+        button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    };
+    addStep("Previous", Qt::Key_PageUp, Qt::LeftArrow, -1);
+    addStep("Next", Qt::Key_PageDown, Qt::RightArrow, 1);
 }
 
 void CalendarPane::addViews(QToolBar& bar)

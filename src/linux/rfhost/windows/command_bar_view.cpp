@@ -115,10 +115,11 @@ void CommandBarView::addCombo(QToolBar& bar, const ShownControl& shown)
     }
     bar.addWidget(combo);
     const auto choose = [combo, &window = window_, control = shown.control] {
-        const Text text = textOf(combo->currentText());
-        // Leaving the box without a change is no choice.
-        if (text != control->text())
-            later(&window, [control, text] { control->choose(text); });
+        later(&window, [control, text = textOf(combo->currentText())] {
+            // Leaving the box without a change is no choice.
+            if (text != control->text())
+                control->choose(text);
+        });
     };
     QObject::connect(combo, &QComboBox::textActivated, &bar, choose);
     QObject::connect(combo->lineEdit(), &QLineEdit::editingFinished, &bar, choose);
@@ -127,9 +128,10 @@ void CommandBarView::addCombo(QToolBar& bar, const ShownControl& shown)
 
 void CommandBarView::click(const std::shared_ptr<CommandBarControl>& control)
 {
-    later(&window_, [pressed = pressed_, control] {
+    later(&window_, [pressed = pressed_, control, window = QPointer{&window_}] {
         control->click();
-        pressed(control->id());
+        if (window != nullptr)
+            pressed(control->id());
     });
 }
 

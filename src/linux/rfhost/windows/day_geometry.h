@@ -28,6 +28,13 @@ struct DayGeometry {
     int scrolled = 0;
 
     [[nodiscard]] int top() const { return headerHeight + barsHeight; }
+    /// The column of a moment's day; below 0 or beyond the last one when it is not shown.
+    [[nodiscard]] int columnOf(Date moment) const
+    {
+        constexpr std::int64_t daySeconds = std::int64_t{minutesOfADay} * 60;
+        return static_cast<int>((host::dayOf(moment).seconds() - shown.first.seconds()) / daySeconds);
+    }
+    [[nodiscard]] bool isShown(int day) const { return day >= 0 && day < shown.count; }
     [[nodiscard]] int leftOf(int day) const { return hoursWidth + (width - hoursWidth) * day / shown.count; }
     [[nodiscard]] int yOf(int minute) const { return top() + minute * hourHeight / 60 - scrolled; }
     [[nodiscard]] int dayAt(int x) const

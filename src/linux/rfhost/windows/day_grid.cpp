@@ -5,8 +5,7 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QKeyEvent>
-#include <QLineEdit>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
@@ -19,21 +18,11 @@ using host::AppointmentTimes;
 using host::CalendarEntry;
 using host::DragPart;
 
-/// What one press of an arrow key chooses.
-constexpr int chosenMinutes = 30;
 constexpr int firstShownMinute = 7 * 60 + 30;
 constexpr int firstChosenMinute = 8 * 60;
 /// The edges of a booking by which it is stretched, in pixels.
 constexpr int edge = 5;
 constexpr int minutesOfADay = DayGeometry::minutesOfADay;
-
-AppointmentTimes slotAt(Date start, int minutes = chosenMinutes) { return {start, start.plusMinutes(minutes), false}; }
-
-std::size_t indexOf(const std::vector<CalendarEntry>& entries, const CalendarEntry& entry)
-{
-    const auto found = std::ranges::find_if(entries, [&](const CalendarEntry& one) { return one.isSame(entry); });
-    return static_cast<std::size_t>(found - entries.begin());
-}
 
 } // namespace
 
@@ -48,6 +37,8 @@ DayGrid::DayGrid(CalendarActions actions, const Clock& clock)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     viewport()->setMouseTracking(true);
+    connect(&minute_, &QTimer::timeout, viewport(), qOverload<>(&QWidget::update));
+    minute_.start(std::chrono::minutes{1});
 }
 
 void DayGrid::show(const host::ShownDays& days, std::vector<CalendarEntry> entries)
@@ -56,12 +47,20 @@ void DayGrid::show(const host::ShownDays& days, std::vector<CalendarEntry> entri
     entries_ = std::move(entries);
     arrange();
     if (chosen_) {
-        const auto index = indexOf(entries_, *chosen_);
+        const auto index = indexOf(*chosen_);
         chosen_ = index < entries_.size() ? std::optional{entries_[index]} : std::nullopt;
     }
     setScrollRange();
     viewport()->update();
 }
+
+std::size_t DayGrid::indexOf(const CalendarEntry& entry) const
+{
+    const auto found = std::ranges::find_if(entries_, [&](const CalendarEntry& one) { return one.isSame(entry); });
+    return static_cast<std::size_t>(found - entries_.begin());
+}
+
+AppointmentTimes DayGrid::slotAt(Date start) { return {start, start.plusMinutes(chosenMinutes), false}; }
 
 void DayGrid::arrange() { arrangement_ = host::arrangedByHours(entries_, days_); }
 
@@ -141,7 +140,7 @@ void DayGrid::paintEvent(QPaintEvent*)
     if (chosen_)
         picture.chosen = &*chosen_;
     else
-        picture.slots = slots_;
+        picture.free = slots_;
     host::DayArrangement preview;
     CalendarEntry moved;
     if (drag_ && drag_->isMoving && drag_->entry) {
@@ -269,97 +268,6 @@ void DayGrid::mouseDoubleClickEvent(QMouseEvent* event)
         actions_.create(slots_);
 }
 
-bool DayGrid::pressOnEntry(const QKeyEvent& event)
-{
-    const bool alt = event.modifiers().testFlag(Qt::AltModifier);
-    const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
-    const AppointmentTimes times = timesOf(*chosen_);
-    const auto moveBy = [&](long long minutes) {
-        const auto start = times.start.plusMinutes(minutes);
-        actions_.move(*chosen_, host::withStart(times, start));
-    };
-    const int steps = event.key() == Qt::Key_Down || event.key() == Qt::Key_Right ? 1 : -1;
-    switch (event.key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        if (alt && shift && !times.allDay)
-            actions_.move(*chosen_,
-                {times.start, host::withEnd(times, times.end.plusMinutes(steps * host::slotMinutes)).end, false});
-        else if (alt && !times.allDay)
-            moveBy(steps * host::slotMinutes);
-        return alt;
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-        if (alt)
-            moveBy(static_cast<long long>(steps) * minutesOfADay);
-        return alt;
-    case Qt::Key_Delete:
-        actions_.remove(*chosen_);
-        return true;
-    case Qt::Key_Escape:
-        chooseSlots(slotAt(chosen_->start));
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool DayGrid::moveChoice(const QKeyEvent& event)
-{
-    const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
-    switch (event.key()) {
-    case Qt::Key_Left:
-        stepDay(-1);
-        return true;
-    case Qt::Key_Right:
-        stepDay(1);
-        return true;
-    case Qt::Key_Up:
-        stepSlot(-1, shift);
-        return true;
-    case Qt::Key_Down:
-        stepSlot(1, shift);
-        return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        chosen_ ? actions_.open(*chosen_) : actions_.create(slots_);
-        return true;
-    default:
-        return false;
-    }
-}
-
-void DayGrid::keyPressEvent(QKeyEvent* event)
-{
-    if ((chosen_ && pressOnEntry(*event)) || moveChoice(*event))
-        return;
-    const bool isTyped = !event->text().isEmpty() && event->text().front().isPrint()
-        && !event->modifiers().testFlag(Qt::ControlModifier) && !event->modifiers().testFlag(Qt::AltModifier);
-    if (isTyped)
-        beginTyping(event->text());
-    else
-        QAbstractScrollArea::keyPressEvent(event);
-}
-
-void DayGrid::stepDay(int days)
-{
-    const AppointmentTimes next = slotAt(host::plusDays(slots_.start, days));
-    chooseSlots(next);
-    if (next.start.seconds() < days_.first.seconds() || next.start.seconds() >= host::endOf(days_).seconds())
-        actions_.showDay(next.start);
-    scrollTo(next.start);
-}
-
-void DayGrid::stepSlot(int slots, bool extends)
-{
-    const auto minutes = static_cast<long long>(slots) * chosenMinutes;
-    if (extends)
-        chooseSlots(host::withEnd(slots_, slots_.end.plusMinutes(minutes)));
-    else if (const Date start = slots_.start.plusMinutes(minutes); host::dayOf(start) == host::dayOf(slots_.start))
-        chooseSlots(slotAt(start));
-    scrollTo(slots > 0 ? slots_.end : slots_.start);
-}
-
 void DayGrid::scrollTo(Date moment)
 {
     const DayGeometry geometry = geometryNow();
@@ -371,42 +279,10 @@ void DayGrid::scrollTo(Date moment)
         verticalScrollBar()->setValue(geometry.scrolled + y + height - viewport()->height());
 }
 
-bool DayGrid::focusNextPrevChild(bool next)
-{
-    const std::size_t index = chosen_ ? indexOf(entries_, *chosen_) : entries_.size();
-    const std::size_t following = !chosen_ ? (next ? 0 : entries_.size()) : next ? index + 1 : index - 1;
-    if (following >= entries_.size())
-        return QAbstractScrollArea::focusNextPrevChild(next);
-    choose(entries_[following]);
-    scrollTo(chosen_->start);
-    return true;
-}
-
 void DayGrid::focusInEvent(QFocusEvent* event)
 {
     QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
-}
-
-void DayGrid::beginTyping(const QString& text)
-{
-    const AppointmentTimes times = chosen_ ? slotAt(chosen_->start) : slots_;
-    const DayGeometry geometry = geometryNow();
-    const int day = geometry.dayAt(
-        geometry.leftOf(static_cast<int>((host::dayOf(times.start).seconds() - days_.first.seconds()) / 86400)) + 1);
-    editor_ = new QLineEdit{text, viewport()};
-    editor_->setObjectName(QStringLiteral("newSubject"));
-    editor_->setAccessibleName(QStringLiteral("Subject of the new appointment"));
-    const int top = times.allDay ? geometry.headerHeight : geometry.yOf(host::timeOfDay(times.start) / 60);
-    editor_->setGeometry(geometry.leftOf(day) + 1, top, geometry.leftOf(day + 1) - geometry.leftOf(day) - 1,
-        editor_->sizeHint().height());
-    connect(editor_, &QLineEdit::returnPressed, this, [this, times] {
-        actions_.createNamed(times, textOf(editor_->text()));
-        setFocus();
-    });
-    connect(editor_, &QLineEdit::editingFinished, editor_, &QObject::deleteLater);
-    editor_->show();
-    editor_->setFocus();
 }
 
 } // namespace rf::native

@@ -7,6 +7,7 @@
 
 #include <QAbstractScrollArea>
 #include <QPointer>
+#include <QTimer>
 
 class QLineEdit;
 
@@ -51,8 +52,14 @@ private:
         host::AppointmentTimes times;
     };
 
+    /// What one press of an arrow key chooses.
+    static constexpr int chosenMinutes = 30;
+    [[nodiscard]] static host::AppointmentTimes slotAt(Date start);
+
     void arrange();
     void setScrollRange();
+    /// The count of the bookings when it is none of them.
+    [[nodiscard]] std::size_t indexOf(const host::CalendarEntry& entry) const;
     [[nodiscard]] std::optional<host::CalendarEntry> entryAt(QPoint point) const;
     [[nodiscard]] host::DragPart partAt(const host::CalendarEntry& entry, QPoint point) const;
     void choose(std::optional<host::CalendarEntry> entry);
@@ -62,8 +69,10 @@ private:
     [[nodiscard]] bool pressOnEntry(const QKeyEvent& event);
     [[nodiscard]] bool moveChoice(const QKeyEvent& event);
     void stepDay(int days);
-    void stepSlot(int slots, bool extends);
+    void stepSlot(int steps, bool extends);
     void beginTyping(const QString& text);
+    /// An empty subject books nothing.
+    void endTyping(const host::AppointmentTimes& times, const Text& subject);
     void scrollTo(Date moment);
     void announce(const QString& text);
 
@@ -77,6 +86,8 @@ private:
     std::optional<Drag> drag_;
     QPointer<QLineEdit> editor_;
     bool wasShown_ = false;
+    /// Moves the line of the present time.
+    QTimer minute_;
 };
 
 } // namespace rf::native

@@ -2,6 +2,8 @@
 
 #include "linux/qt_text.h"
 
+#include <QTextOption>
+
 namespace rf::native {
 
 namespace {
@@ -50,12 +52,12 @@ void paintColumnLines(QPainter& painter, const DayPicture& picture)
 
 void paintSlots(QPainter& painter, const DayPicture& picture)
 {
-    if (!picture.slots || picture.slots->allDay)
+    if (!picture.free || picture.free->allDay)
         return;
     // Slots are chosen within one day or over several, always from one moment to another.
     CalendarEntry entry;
-    entry.start = picture.slots->start;
-    entry.end = picture.slots->end;
+    entry.start = picture.free->start;
+    entry.end = picture.free->end;
     const auto arrangement = host::arrangedByHours({&entry, 1}, picture.geometry.shown);
     for (const PlacedEntry& placed : arrangement.entries) {
         const int left = picture.geometry.leftOf(placed.day) + 1;
@@ -67,10 +69,9 @@ void paintSlots(QPainter& painter, const DayPicture& picture)
 
 void paintNow(QPainter& painter, const DayPicture& picture)
 {
-    const auto days = (host::dayOf(picture.now).seconds() - picture.geometry.shown.first.seconds()) / 86400;
-    if (days < 0 || days >= picture.geometry.shown.count)
+    const int day = picture.geometry.columnOf(picture.now);
+    if (!picture.geometry.isShown(day))
         return;
-    const int day = static_cast<int>(days);
     const int y = picture.geometry.yOf(host::timeOfDay(picture.now) / minutesOfAnHour);
     painter.setPen(QPen{picture.colors.now, 2});
     painter.drawLine(picture.geometry.leftOf(day), y, picture.geometry.leftOf(day + 1), y);
@@ -94,15 +95,36 @@ void paintHeader(QPainter& painter, const DayPicture& picture)
         painter.drawText(cell, Qt::AlignCenter, name);
     }
     painter.setFont(usual);
-    if (picture.slots && picture.slots->allDay) {
-        const int day = geometry.dayAt(0)
-            + static_cast<int>((picture.slots->start.seconds() - geometry.shown.first.seconds()) / 86400);
-        if (day >= 0 && day < geometry.shown.count)
-            painter.fillRect(geometry.leftOf(day) + 1, geometry.headerHeight,
-                geometry.leftOf(day + 1) - geometry.leftOf(day) - 1, geometry.barsHeight, picture.colors.chosen);
+    if (picture.free && picture.free->allDay) {
+        const int first = std::max(geometry.columnOf(picture.free->start), 0);
+        const int end = std::min(geometry.columnOf(picture.free->end), geometry.shown.count);
+        if (first < end)
+            painter.fillRect(geometry.leftOf(first) + 1, geometry.headerHeight,
+                geometry.leftOf(end) - geometry.leftOf(first) - 1, geometry.barsHeight, picture.colors.chosen);
     }
     painter.setPen(picture.colors.line);
     painter.drawLine(0, geometry.top() - 1, geometry.width, geometry.top() - 1);
+}
+
+/// What stands on a booking, on one line or on several.
+QString textOf(const CalendarEntry& entry, bool hasLines)
+{
+    QString text = entry.subject.empty() ? QStringLiteral("(no subject)") : qtText(entry.subject);
+    if (entry.isRecurring())
+        text += QStringLiteral(" ↻");
+    if (hasLines)
+        text += QLatin1Char{'\n'} + timeText(entry.start) + QStringLiteral(" – ") + timeText(entry.end);
+    if (!entry.location.empty())
+        text += (hasLines ? QStringLiteral("\n") : QStringLiteral(" · ")) + qtText(entry.location);
+    return text;
+}
+
+/// Between words, and within one that is wider than its booking.
+QTextOption wrapped()
+{
+    QTextOption option{Qt::AlignTop | Qt::AlignLeft};
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return option;
 }
 
 /// Of one arrangement what lies in the columns, or above them.
@@ -130,24 +152,14 @@ void paintBooking(QPainter& painter, const CalendarColors& colors, const Calenda
     painter.setBrush(box.isChosen ? colors.accentText : colors.strip(entry.busyStatus));
     painter.drawRoundedRect(QRect{box.rect.left(), box.rect.top(), stripWidth, box.rect.height()}, 2, 2);
     painter.setPen(box.isChosen ? colors.accentText : colors.text);
-    QRect inside = box.rect.adjusted(stripWidth + DayGeometry::gap * 2, 1, -DayGeometry::gap, -1);
-    QString text = entry.subject.empty() ? QStringLiteral("(no subject)") : qtText(entry.subject);
-    if (entry.isRecurring())
-        text += QStringLiteral(" ↻");
-    const bool hasSecondLine = inside.height() >= painter.fontMetrics().height() * 2;
-    if (!hasSecondLine && !entry.location.empty())
-        text += QStringLiteral(" · ") + qtText(entry.location);
-    const QFontMetrics metrics = painter.fontMetrics();
+    const QRect inside = box.rect.adjusted(stripWidth + DayGeometry::gap * 2, 1, -DayGeometry::gap, -1);
+    const bool isTall = inside.height() >= painter.fontMetrics().height() * 2;
     painter.setClipRect(box.rect);
-    painter.drawText(inside, Qt::AlignLeft | (hasSecondLine ? Qt::AlignTop : Qt::AlignVCenter),
-        metrics.elidedText(text, Qt::ElideRight, inside.width()));
-    if (hasSecondLine && box.hasTime) {
-        inside.setTop(inside.top() + metrics.height());
-        const QString place = entry.location.empty() ? QString{} : QStringLiteral(" · ") + qtText(entry.location);
-        const QString line = timeText(entry.start) + QStringLiteral(" – ") + timeText(entry.end) + place;
-        painter.drawText(
-            inside, Qt::AlignLeft | Qt::AlignTop, metrics.elidedText(line, Qt::ElideRight, inside.width()));
-    }
+    if (isTall && box.hasTime)
+        painter.drawText(QRectF{inside}, textOf(entry, true), wrapped());
+    else
+        painter.drawText(inside, Qt::AlignVCenter,
+            painter.fontMetrics().elidedText(textOf(entry, false), Qt::ElideRight, inside.width()));
     painter.restore();
 }
 

@@ -18,7 +18,7 @@ struct DayPicture {
     /// Null when none is chosen.
     const host::CalendarEntry* chosen = nullptr;
     /// The free slots that are chosen; nothing while a booking is.
-    std::optional<host::AppointmentTimes> slots;
+    std::optional<host::AppointmentTimes> free;
     /// Where the booking that is dragged would come to lie.
     const host::DayArrangement* preview = nullptr;
     std::span<const host::CalendarEntry> previewEntries;

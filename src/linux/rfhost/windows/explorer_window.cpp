@@ -72,7 +72,8 @@ void ExplorerWindow::refresh()
     if (explorer_->isClosed())
         return;
     attempt(this, [this] {
-        tree_->show(model()->folders());
+        folders_ = model()->folders();
+        tree_->show(folders_);
         tree_->choose(explorer_->folder()->id());
         setWindowTitle(qtText(explorer_->caption()));
         bars_.refresh(explorer_->commandBars());
@@ -99,7 +100,8 @@ void ExplorerWindow::showFolder()
 
 void ExplorerWindow::follow()
 {
-    if (!explorer_->isClosed() && model()->store().lastChange() != seen_)
+    // The log of changes knows of items only.
+    if (!explorer_->isClosed() && (model()->store().lastChange() != seen_ || model()->folders() != folders_))
         refresh();
 }
 

@@ -50,6 +50,8 @@ private:
     ItemListPane* items_;
     /// Null without a home page.
     HomePageView* home_ = nullptr;
+    /// The folders and the latest change, as they are shown.
+    std::vector<host::FolderRecord> folders_;
     std::int64_t seen_ = -1;
     Gathered changes_;
     QTimer follower_;

@@ -1,8 +1,8 @@
 #include "linux/rfhost/windows/folder_picker.h"
 
 #include "linux/rfhost/windows/folder_tree.h"
+#include "linux/rfhost/windows/person.h"
 
-#include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -16,7 +16,7 @@ std::optional<host::FolderId> askForFolder(const std::vector<host::FolderRecord>
 {
     constexpr QSize usualSize{420, 460};
     // The window in front may close meanwhile, and the dialog with it.
-    const QPointer dialog{new QDialog{QApplication::activeWindow()}};
+    const QPointer dialog{new QDialog{windowInFront()}};
     dialog->setObjectName(QStringLiteral("folderPicker"));
     dialog->setWindowTitle(QStringLiteral("Select Folder"));
     auto* const layout = new QVBoxLayout{dialog};

@@ -2,6 +2,7 @@
 
 #include "host/home_page_content.h"
 #include "linux/qt_text.h"
+#include "linux/rfhost/windows/roomy_rows.h"
 #include "outlook/constants.h"
 
 #include <QSignalBlocker>
@@ -44,6 +45,7 @@ FolderTree::FolderTree(QWidget* parent)
     setAccessibleName(QStringLiteral("Folders"));
     setObjectName(QStringLiteral("folders"));
     setUniformRowHeights(true);
+    RoomyRows::giveTo(*this);
     connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (item != nullptr && folderChosen)
             folderChosen(idOf(*item));

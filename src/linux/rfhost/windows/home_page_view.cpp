@@ -3,6 +3,7 @@
 #include "linux/qt_text.h"
 #include "linux/rfhost/windows/calendar_pane.h"
 #include "linux/rfhost/windows/person.h"
+#include "linux/rfhost/windows/roomy_rows.h"
 
 #include <QHBoxLayout>
 #include <QInputDialog>
@@ -15,6 +16,9 @@
 namespace rf::native {
 
 namespace {
+
+constexpr int sideWidth = 200;
+constexpr int usualWidth = 700;
 
 host::FolderId idOf(const QListWidgetItem& item) { return host::FolderId{item.data(Qt::UserRole).toLongLong()}; }
 
@@ -36,6 +40,7 @@ HomePageView::HomePageView(std::shared_ptr<host::Model> model, HomePage& page)
     splitter->addWidget(calendar_);
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
+    splitter->setSizes({sideWidth, usualWidth});
     auto* const layout = new QHBoxLayout{this};
     layout->setContentsMargins({});
     layout->addWidget(splitter);
@@ -44,16 +49,16 @@ HomePageView::HomePageView(std::shared_ptr<host::Model> model, HomePage& page)
 
 QWidget* HomePageView::buildSide()
 {
-    constexpr int sideWidth = 210;
     constexpr float larger = 1.3F;
     auto* const side = new QWidget;
-    side->setMinimumWidth(sideWidth);
+    side->setMinimumWidth(sideWidth / 2);
     QFont font = title_->font();
     font.setPointSizeF(font.pointSizeF() * larger);
     font.setBold(true);
     title_->setFont(font);
     hint_->setWordWrap(true);
     list_->setObjectName(QStringLiteral("calendars"));
+    RoomyRows::giveTo(*list_);
     list_->setAccessibleName(QStringLiteral("Calendars"));
     list_->setAccessibleDescription(QStringLiteral("Bookings in the calendars that are ticked are checked."));
     add_->setObjectName(QStringLiteral("addResource"));

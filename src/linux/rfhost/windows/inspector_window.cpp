@@ -61,6 +61,8 @@ void InspectorWindow::buildBar()
     bar->setObjectName(QStringLiteral("form"));
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    bar->setIconSize({size, size});
     const auto add = [&](QStyle::StandardPixmap icon, const char* text, const QList<QKeySequence>& keys, auto step) {
         auto* const action = bar->addAction(style()->standardIcon(icon), QLatin1StringView{text});
         action->setShortcuts(keys);

@@ -5,6 +5,7 @@
 #include "linux/qt_text.h"
 #include "linux/rfhost/windows/person.h"
 #include "linux/rfhost/windows/qt_date.h"
+#include "linux/rfhost/windows/roomy_rows.h"
 
 #include <QLabel>
 #include <QTreeWidget>
@@ -23,6 +24,7 @@ ItemListPane::ItemListPane(std::shared_ptr<host::Model> model)
     list_->setAccessibleName(QStringLiteral("Items"));
     list_->setRootIsDecorated(false);
     list_->setUniformRowHeights(true);
+    RoomyRows::giveTo(*list_);
     list_->setHeaderLabels({QStringLiteral("Subject"), QStringLiteral("To"), QStringLiteral("Changed")});
     auto* const layout = new QVBoxLayout{this};
     layout->addWidget(title_);

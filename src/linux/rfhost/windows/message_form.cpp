@@ -36,7 +36,7 @@ MessageForm::MessageForm(std::shared_ptr<host::Item> item)
     auto* const layout = new QFormLayout{this};
     layout->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     layout->addRow(QStringLiteral("&To:"), to_);
-    layout->addRow(QStringLiteral("&Subject:"), subject_);
+    layout->addRow(QStringLiteral("Su&bject:"), subject_);
     layout->addRow(body_);
     refresh();
     listen();

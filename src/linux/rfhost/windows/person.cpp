@@ -3,9 +3,16 @@
 #include "basic/runtime_error.h"
 #include "linux/qt_text.h"
 
+#include <QApplication>
 #include <QMessageBox>
 
 namespace rf::native {
+
+QWidget* windowInFront()
+{
+    QWidget* const active = QApplication::activeWindow();
+    return active != nullptr && active->isVisible() ? active : nullptr;
+}
 
 void attempt(const QPointer<QWidget>& window, const std::function<void()>& step)
 {

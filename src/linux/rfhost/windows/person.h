@@ -7,6 +7,10 @@
 
 namespace rf::native {
 
+/// The window that a dialog stands before; null when none is in front. One that is closing goes, and would take the
+/// dialog along.
+[[nodiscard]] QWidget* windowInFront();
+
 /// Runs what a person asked for. A failure is told in front of the window, which may have gone meanwhile.
 void attempt(const QPointer<QWidget>& window, const std::function<void()>& step);
 

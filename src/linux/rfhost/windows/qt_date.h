@@ -26,8 +26,13 @@ namespace rf::native {
     return Date::fromFields({date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()});
 }
 
-/// As the person's regional settings write a time of day and a day.
-[[nodiscard]] inline QString timeText(Date date) { return QLocale{}.toString(qtTime(date), QLocale::ShortFormat); }
+/// How the person's regional settings write a time of day, without the seconds that no appointment has.
+[[nodiscard]] inline QString timeFormat()
+{
+    return QLocale{}.timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss")).remove(QStringLiteral(".ss"));
+}
+[[nodiscard]] inline QString timeText(Date date) { return QLocale{}.toString(qtTime(date), timeFormat()); }
+/// As the person's regional settings write a day.
 [[nodiscard]] inline QString dayText(Date date) { return QLocale{}.toString(qtDate(date), QLocale::LongFormat); }
 [[nodiscard]] inline QString shortDayText(Date date) { return QLocale{}.toString(qtDate(date), QLocale::ShortFormat); }
 

@@ -6,8 +6,9 @@
 #include "linux/rfhost/windows/explorer_window.h"
 #include "linux/rfhost/windows/folder_picker.h"
 #include "linux/rfhost/windows/inspector_window.h"
+#include "linux/rfhost/windows/person.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QMessageBox>
 #include <QTimer>
 #include <utility>
@@ -39,6 +40,8 @@ void QtWindows::clear()
 {
     removeAll(inspectors_);
     removeAll(explorers_);
+    // Windows that went during their own events.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 std::int32_t QtWindows::alert(const Text& title, const Text& message, std::int32_t buttons, std::int32_t icon)
@@ -57,7 +60,7 @@ host::SaveAnswer QtWindows::askToSave(const Text& subject)
     // The window in front may close meanwhile, and the box with it.
     const QPointer box{new QMessageBox{QMessageBox::Question, QStringLiteral("Outlook"),
         QStringLiteral("Do you want to save the changes to %1?").arg(name),
-        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QApplication::activeWindow()}};
+        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, windowInFront()}};
     box->setObjectName(QStringLiteral("askToSave"));
     box->setTextFormat(Qt::PlainText);
     const int answer = box->exec();

@@ -6,6 +6,7 @@
 #include "linux/qt_text.h"
 #include "linux/rfhost/windows/person.h"
 #include "linux/rfhost/windows/qt_date.h"
+#include "linux/rfhost/windows/roomy_rows.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -49,6 +50,7 @@ SchedulingPage::SchedulingPage(std::shared_ptr<host::Item> item)
     list_->setObjectName(QStringLiteral("scheduling"));
     list_->setAccessibleName(QStringLiteral("Bookings of the same days"));
     list_->setRootIsDecorated(false);
+    RoomyRows::giveTo(*list_);
     list_->setHeaderLabels({QStringLiteral("Day"), QStringLiteral("Time"), QStringLiteral("Subject")});
     auto* const layout = new QVBoxLayout{this};
     layout->addWidget(summary_);
