@@ -92,6 +92,15 @@ TEST_F(HostDialogs, AskWhetherToSave)
     }
 }
 
+TEST_F(HostDialogs, AreNotShownWhereSomebodyElseAnswers)
+{
+    host::HeadlessWindows answers;
+    windows.setAnswers(&answers);
+    EXPECT_EQ(windows.alert(u"Roomfold", u"Go on?", 4, 2), 7);
+    EXPECT_EQ(windows.pickFolder(store.folders()), std::nullopt);
+    EXPECT_EQ(windows.askToSave(u"Meeting"), host::SaveAnswer::Discard);
+}
+
 TEST_F(HostDialogs, LetProgramsBeServedWhileTheyWait)
 {
     const dbus::PrivateBus bus;

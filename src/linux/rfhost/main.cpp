@@ -45,7 +45,7 @@ Commands:
         window is closed; when the root folder is shown, the program in FILE is
         started beside the host. Without a screen there are no windows, unless
         --windows asks for them, and alerts go to standard error and are
-        declined, or agreed to with --accept-alerts
+        declined. With --accept-alerts they are agreed to and nobody is asked
   activation [--user NAME] [--program FILE] [--into DIRECTORY]
         write the file by which the session bus starts this host with this
         store when a program asks for it and none runs

@@ -73,18 +73,26 @@ std::optional<host::FolderRecord> roomfoldRoot(const host::Store& store)
 class Windows {
 public:
     Windows(const host::CommandContext& context, const ServeOptions& options)
+        : unattended_(context.problems, options.acceptAlerts)
     {
-        if (options.windows)
-            all_ = std::make_unique<QtWindows>();
-        else
-            all_ = std::make_unique<UnattendedWindows>(context.problems, options.acceptAlerts);
+        if (!options.windows)
+            return;
+        onScreen_ = std::make_unique<QtWindows>();
+        if (options.acceptAlerts)
+            onScreen_->setAnswers(&unattended_);
     }
-    [[nodiscard]] host::HostWindows& any() const { return *all_; }
+    [[nodiscard]] host::HostWindows& any()
+    {
+        if (onScreen_ != nullptr)
+            return *onScreen_;
+        return unattended_;
+    }
     /// Null without a screen.
-    [[nodiscard]] QtWindows* onScreen() const { return dynamic_cast<QtWindows*>(all_.get()); }
+    [[nodiscard]] QtWindows* onScreen() const { return onScreen_.get(); }
 
 private:
-    std::unique_ptr<host::HostWindows> all_;
+    UnattendedWindows unattended_;
+    std::unique_ptr<QtWindows> onScreen_;
 };
 
 void follow(host::Model& model, std::ostream& problems)
@@ -111,7 +119,7 @@ bool wantsWindows(bool asked)
 int serve(const host::CommandContext& context, const ServeOptions& options)
 {
     host::ensureMailbox(context.store, options.user);
-    const Windows windows{context, options};
+    Windows windows{context, options};
     const auto recurrence = host::makeRecurrenceEngine();
     const auto application
         = host::Application::make({context.store, context.regional, context.clock, windows.any(), recurrence.get()},

@@ -13,7 +13,7 @@ struct ServeOptions {
     std::string folder;
     /// The program that the home page starts; empty for none.
     std::filesystem::path program;
-    /// Whether alerts are answered with the button that agrees, where no screen shows them.
+    /// Whether alerts are answered with the button that agrees and no person is asked anything, screen or not.
     bool acceptAlerts = false;
     /// Whether there are windows. They need a QApplication.
     bool windows = false;

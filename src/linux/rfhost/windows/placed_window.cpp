@@ -86,6 +86,12 @@ void PlacedWindow::closeEvent(QCloseEvent* event)
         closeWanted();
 }
 
+void PlacedWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    tellPlace();
+}
+
 void PlacedWindow::moveEvent(QMoveEvent* event)
 {
     QMainWindow::moveEvent(event);

@@ -46,16 +46,20 @@ void QtWindows::clear()
 
 std::int32_t QtWindows::alert(const Text& title, const Text& message, std::int32_t buttons, std::int32_t icon)
 {
+    if (answers_ != nullptr)
+        return answers_->alert(title, message, buttons, icon);
     return showAlert(title, message, buttons, icon);
 }
 
 std::optional<host::FolderId> QtWindows::pickFolder(const std::vector<host::FolderRecord>& folders)
 {
-    return askForFolder(folders);
+    return answers_ != nullptr ? answers_->pickFolder(folders) : askForFolder(folders);
 }
 
 host::SaveAnswer QtWindows::askToSave(const Text& subject)
 {
+    if (answers_ != nullptr)
+        return answers_->askToSave(subject);
     const QString name = subject.empty() ? QStringLiteral("this item") : QStringLiteral("“%1”").arg(qtText(subject));
     // The window in front may close meanwhile, and the box with it.
     const QPointer box{new QMessageBox{QMessageBox::Question, QStringLiteral("Outlook"),

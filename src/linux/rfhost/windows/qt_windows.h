@@ -23,6 +23,9 @@ public:
 
     /// What the root folder of the calendar product shows; it outlives the windows. Without one it is a folder as any.
     void setHomePage(HomePage* page) { homePage_ = page; }
+    /// Who answers alerts and questions in the place of the person; it outlives this. The windows are shown all the
+    /// same.
+    void setAnswers(HostWindows* answers) { answers_ = answers; }
     /// Called when a person has closed the last window.
     void setLastClosed(std::function<void()> lastClosed) { lastClosed_ = std::move(lastClosed); }
     /// Takes all windows off the screen: the host ends.
@@ -45,6 +48,7 @@ private:
     void tellWhenLast();
 
     HomePage* homePage_ = nullptr;
+    HostWindows* answers_ = nullptr;
     std::function<void()> lastClosed_;
     /// Goes with this object.
     std::shared_ptr<const bool> alive_ = std::make_shared<const bool>(true);
