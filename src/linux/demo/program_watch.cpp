@@ -9,8 +9,9 @@ namespace {
 
 /// Those of the application, the explorer and the windows.
 constexpr quint64 handlersBesideRooms = 3;
-constexpr std::chrono::seconds startLimit{20};
-constexpr int mostTries = 3;
+/// For one start, and for as many as it takes: one that ends on the way is tried again.
+constexpr std::chrono::seconds startLimit{15};
+constexpr std::chrono::seconds patience{90};
 constexpr std::chrono::milliseconds step{10};
 
 } // namespace
@@ -50,7 +51,7 @@ bool ProgramWatch::comesUp() const
 std::chrono::milliseconds ProgramWatch::start() const
 {
     const auto begin = std::chrono::steady_clock::now();
-    for (int tries = 0; tries < mostTries; ++tries) {
+    while (std::chrono::steady_clock::now() - begin < patience) {
         showRoot();
         if (comesUp())
             return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - begin);
