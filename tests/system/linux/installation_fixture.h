@@ -117,7 +117,7 @@ protected:
 
     [[nodiscard]] std::filesystem::path writeCalendar(const std::string& events) const
     {
-        const auto file = folder.file("calendar.ics");
+        auto file = folder.file("calendar.ics");
         host::test::writeBytes(
             file, "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//test//EN\r\n" + events + "END:VCALENDAR\r\n");
         return file;
