@@ -90,6 +90,9 @@ void cCurrInspector::ouiCurrInspector_Activate()
         isRequest_ = !isAppointment;
         takeItem(item);
     }
+    // A quick person has closed the window meanwhile; what was taken up since goes too.
+    if (blnClosed_)
+        return release();
     if (isAppointment && errors.attempt([&] { return item.meetingStatus(); }) != outlook::MeetingStatus::Meeting)
         subHideShedulingTab();
 }
@@ -109,7 +112,8 @@ void cCurrInspector::takeItem(const outlook::AppointmentItem& item)
     BookingItem booking{item};
     static_cast<void>(fncAddBookingProps(booking));
     nameOrganizer(booking);
-    addControls();
+    if (const auto window = ouiCurrInspector_)
+        addControls(window);
 }
 
 void cCurrInspector::nameOrganizer(BookingItem& booking)
@@ -131,9 +135,9 @@ bool cCurrInspector::isNew(const outlook::AppointmentItem& item) const
     return age < newFor;
 }
 
-void cCurrInspector::addControls()
+void cCurrInspector::addControls(const outlook::Inspector& window)
 {
-    const auto bar = fncGetToolbar(session_, ouiCurrInspector_);
+    const auto bar = fncGetToolbar(session_, window);
     PendingError errors;
     const auto controls = errors.attempt([&] { return bar.controls(); });
     addButton(controls);
@@ -312,6 +316,11 @@ void cCurrInspector::ouiCurrInspector_Close()
     const auto form = hiddenForm(session_);
     if (form && form->ouiPendingInspector() == ouiCurrInspector_)
         form->setOuiPendingInspector({});
+    release();
+}
+
+void cCurrInspector::release()
+{
     releaseItem();
     releaseWindow();
     releaseOrders();

@@ -73,7 +73,7 @@ private:
     void takeItem(const outlook::AppointmentItem& item);
     void nameOrganizer(BookingItem& booking);
     [[nodiscard]] bool isNew(const outlook::AppointmentItem& item) const;
-    void addControls();
+    void addControls(const outlook::Inspector& window);
     void addButton(const outlook::CommandBarControls& controls);
     void addCombo(const outlook::CommandBarControls& controls);
     void showOrders();
@@ -81,6 +81,7 @@ private:
     [[nodiscard]] bool isThrownAway(const Text& reason);
     void throwAway();
     [[nodiscard]] Text sourceName(BookingItem& booking) const;
+    void release();
     void releaseItem();
     void releaseWindow();
     void releaseOrders();

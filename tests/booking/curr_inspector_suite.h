@@ -529,6 +529,29 @@ TEST_P(AppointmentWindow, OfAnItemThatIsDeletedElsewhereLetsGoOfIt)
     EXPECT_FALSE(watched().ouaCurrApp());
 }
 
+TEST_P(AppointmentWindow, MayBeClosedAtEveryMomentOfItsBeingTakenUp)
+{
+    defineProjects();
+    openNew();
+    const auto shown = watched().ouiCurrInspector();
+    const auto fault = std::make_shared<Fault>();
+    const auto takeUp = [&](std::optional<int> closedAt) {
+        const auto window = std::make_shared<cCurrInspector>(*session, OrdersForms{});
+        window->setOuiCurrInspector(outlook::Inspector{FaultyDispatch::wrap(shown.object(), fault)});
+        *fault = {.failingUse = closedAt, .instead = [&] { window->ouiCurrInspector_Close(); }};
+        window->ouiCurrInspector_Activate();
+        EXPECT_EQ(window->blnClosed(), closedAt.has_value());
+        EXPECT_EQ(!window->ouaCurrApp() && !window->cmdButton() && !window->cmbProjects(), closedAt.has_value());
+        return fault->uses;
+    };
+    const int uses = takeUp(std::nullopt);
+    ASSERT_GT(uses, 0);
+    for (int use = 1; use <= uses; ++use) {
+        SCOPED_TRACE("closed at the use " + std::to_string(use) + " of " + std::to_string(uses));
+        EXPECT_NO_THROW(takeUp(use));
+    }
+}
+
 TEST_P(AppointmentWindow, IsGuardedForAsLongAsItIsOpenBesideOthers)
 {
     forbidDoubles();
