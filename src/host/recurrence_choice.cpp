@@ -51,21 +51,25 @@ Text take(Parts& parts, TextView name)
 std::optional<int> numberIn(TextView digits)
 {
     constexpr std::size_t mostDigits = 8;
+    if (digits.empty() || digits.size() > mostDigits)
+        return std::nullopt;
     int value = 0;
     for (const char16_t digit : digits) {
         if (digit < u'0' || digit > u'9')
             return std::nullopt;
         value = value * 10 + (digit - u'0');
     }
-    return digits.empty() || digits.size() > mostDigits ? std::nullopt : std::optional{value};
+    return value;
 }
 
 std::optional<Date> dayIn(TextView until)
 {
     constexpr std::size_t dateLength = 8;
     constexpr std::size_t yearLength = 4;
+    if (until.size() < dateLength)
+        return std::nullopt;
     const auto year = numberIn(until.substr(0, yearLength));
-    const auto rest = until.size() < dateLength ? std::nullopt : numberIn(until.substr(yearLength, yearLength));
+    const auto rest = numberIn(until.substr(yearLength, yearLength));
     if (!year || !rest)
         return std::nullopt;
     constexpr int hundred = 100;
