@@ -1,4 +1,5 @@
 #include "orders/list_handler_fixture.h"
+#include "support/temporary_files.h"
 
 namespace rf::orders {
 namespace {
@@ -274,6 +275,7 @@ TEST_F(ListHandlerMembers, WriteADictionaryDownTheFirstColumn)
 
 TEST_F(ListHandlerMembers, PrintTheUsedRangeByTheBrowser)
 {
+    const test::TemporaryFiles temporary;
     notes->answers[u"ActiveSheet.UsedRange.HTMLData"] = u"<html>Café \u05E7</html>";
     const auto browser = std::make_shared<test::RecordingDispatch>();
     const auto page = std::make_shared<test::RecordingDispatch>();
@@ -295,6 +297,7 @@ TEST_F(ListHandlerMembers, PrintTheUsedRangeByTheBrowser)
 
 TEST_F(ListHandlerMembers, PrintTheUsedRangeByTheSystemWithoutABrowser)
 {
+    const test::TemporaryFiles temporary;
     notes->answers[u"ActiveSheet.UsedRange.HTMLData"] = u"<html></html>";
     usesOf([](auto& it) { it.PrintSheet(); });
     ASSERT_EQ(system.verbs.size(), 1U);

@@ -17,7 +17,7 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(Locales, OrderTotal, ::testing::ValuesIn(test::locales()),
-    [](const auto& info) { return std::string{info.param.name}; });
+    [](const auto& locale) { return std::string{locale.param.name}; });
 
 TEST_P(OrderTotal, IsShownAsMoney)
 {

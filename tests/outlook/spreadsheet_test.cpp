@@ -101,17 +101,17 @@ TEST(SpreadsheetProtectionFace, UsesTheMembersOfTheControl)
 
 TEST(SpreadsheetWindowFace, UsesTheMembersOfTheControl)
 {
-    using Window = SpreadsheetWindow;
-    expectSwitches<Window>({
-        {u"DisplayColumnHeadings", &Window::displayColumnHeadings, &Window::setDisplayColumnHeadings},
-        {u"DisplayRowHeadings", &Window::displayRowHeadings, &Window::setDisplayRowHeadings},
-        {u"DisplayGridlines", &Window::displayGridlines, &Window::setDisplayGridlines},
-        {u"DisplayHorizontalScrollBar", &Window::displayHorizontalScrollBar, &Window::setDisplayHorizontalScrollBar},
-        {u"DisplayVerticalScrollBar", &Window::displayVerticalScrollBar, &Window::setDisplayVerticalScrollBar},
-        {u"EnableResize", &Window::enableResize, &Window::setEnableResize},
-        {u"FreezePanes", &Window::freezePanes, &Window::setFreezePanes},
+    using Face = SpreadsheetWindow;
+    expectSwitches<Face>({
+        {u"DisplayColumnHeadings", &Face::displayColumnHeadings, &Face::setDisplayColumnHeadings},
+        {u"DisplayRowHeadings", &Face::displayRowHeadings, &Face::setDisplayRowHeadings},
+        {u"DisplayGridlines", &Face::displayGridlines, &Face::setDisplayGridlines},
+        {u"DisplayHorizontalScrollBar", &Face::displayHorizontalScrollBar, &Face::setDisplayHorizontalScrollBar},
+        {u"DisplayVerticalScrollBar", &Face::displayVerticalScrollBar, &Face::setDisplayVerticalScrollBar},
+        {u"EnableResize", &Face::enableResize, &Face::setEnableResize},
+        {u"FreezePanes", &Face::freezePanes, &Face::setFreezePanes},
     });
-    expectUses<Window>({
+    expectUses<Face>({
         {u"ViewableRange", Get, {}, u"$A$1:$C$7", [](auto& window) { return window.viewableRange(); }},
         {u"ViewableRange", Put, {u"A1:C7"}, {}, [](auto& window) { window.setViewableRange(u"A1:C7"); }},
     });

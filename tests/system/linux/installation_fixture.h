@@ -29,8 +29,11 @@ template <class Condition>
 [[nodiscard]] bool within(std::chrono::milliseconds limit, Condition&& condition)
 {
     const auto end = std::chrono::steady_clock::now() + limit;
-    while (!condition() && std::chrono::steady_clock::now() < end)
+    while (std::chrono::steady_clock::now() < end) {
+        if (condition())
+            return true;
         std::this_thread::sleep_for(10ms);
+    }
     return condition();
 }
 
