@@ -85,7 +85,8 @@ void nameByLabels(const FormControls& controls)
         if (auto* label = dynamic_cast<QtLabel*>(control.get()))
             label->setBuddy(nullptr);
     for (const auto& control : controls) {
-        if (control->shownCaption() != nullptr)
+        // A control whose keys go to a part of it has its name from there.
+        if (control->shownCaption() != nullptr || control->widget().focusProxy() != nullptr)
             continue;
         QtLabel* label = labelFor(controls, *control);
         control->widget().setAccessibleName(qtText(label == nullptr ? control->control().name() : label->caption()));

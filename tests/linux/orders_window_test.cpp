@@ -8,6 +8,7 @@
 #include "support/phrase_resource.h"
 
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QTextDocument>
 
@@ -247,6 +248,16 @@ TEST_F(OrdersWindow, NamesItsFieldsForThoseWhoHearTheScreen)
     EXPECT_EQ(nameOf(u"txtOrderComment"), u"Comment to order");
     EXPECT_EQ(nameOf(u"txtCC1"), u"Cost Center");
     EXPECT_EQ(grid().accessibleName(), u"Supply");
+}
+
+TEST_F(OrdersWindow, LeadsFromEachLabelToItsFieldAndNotToTheList)
+{
+    usualSupplies();
+    open(booker.booking());
+    const auto fieldOf = [&](TextView label) { return widget<QLabel>(window(), label)->buddy(); };
+    EXPECT_EQ(fieldOf(u"lblBookedBy"), widget(window(), u"txtBooker"));
+    EXPECT_EQ(fieldOf(u"lblBookedAt"), widget(window(), u"txtCreatedAt"));
+    EXPECT_EQ(widget(window(), u"exsOrders")->accessibleName(), QString{});
 }
 
 TEST_F(OrdersWindow, ShowsAllColumnsWithoutScrollingSideways)
