@@ -52,6 +52,21 @@ TEST_F(ItemWindow, ShowsTheItem)
     EXPECT_FALSE(item->hasChanges());
 }
 
+TEST_F(ItemWindow, ShowsEveryDayOfAWeekWhole)
+{
+    constexpr int frameAndCursor = 5;
+    const auto id = book(u"Budget", at(5, 10), at(5, 11));
+    open(stored(id));
+    auto& day = in<QDateEdit>(window, "startDay");
+    const auto& field = in<QLineEdit>(&day, "qt_spinbox_lineedit");
+    for (int weekday = 0; weekday < 7; ++weekday) {
+        day.setDate(QDate{2007, 3, 21}.addDays(weekday));
+        settle();
+        EXPECT_LE(field.fontMetrics().horizontalAdvance(field.text()) + frameAndCursor, field.width())
+            << field.text().toStdString();
+    }
+}
+
 TEST_F(ItemWindow, WritesWhatAPersonEntersIntoTheItem)
 {
     open();

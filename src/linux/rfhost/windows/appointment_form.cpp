@@ -42,6 +42,9 @@ QDateEdit* makeDayBox(const char* objectName, const char* accessibleName)
     if (!format.contains(QStringLiteral("yyyy")))
         format.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
     box->setDisplayFormat(QStringLiteral("ddd ") + format);
+    // Qt has the width from the first and the last day that there is; other weekdays have wider names.
+    constexpr int someLetters = 3;
+    box->setMinimumWidth(box->sizeHint().width() + someLetters * box->fontMetrics().averageCharWidth());
     return box;
 }
 
