@@ -79,6 +79,7 @@ Date plusMonths(Date day, int months)
 std::vector<Date> daysOf(const ShownDays& shown)
 {
     std::vector<Date> days;
+    days.reserve(static_cast<std::size_t>(shown.count));
     for (int index = 0; index < shown.count; ++index)
         days.push_back(plusDays(shown.first, index));
     return days;

@@ -47,12 +47,12 @@ automation::LocalMember<T> itemNumber(TextView name)
 using ItemAnswer = automation::Variant (*)(Item& self, const automation::Arguments& arguments);
 
 /// A member of items that is answered by a step and cannot be assigned.
-template <class T, ItemAnswer Answer>
+template <class T, ItemAnswer answer>
 automation::LocalMember<T> itemAnswer(TextView name)
 {
     return {name, [](T& self, const automation::Arguments& arguments) -> automation::Variant {
                 self.requireAlive();
-                return Answer(self, arguments);
+                return answer(self, arguments);
             }};
 }
 

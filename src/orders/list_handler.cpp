@@ -159,7 +159,9 @@ Text cListHandler::fncGetSel()
 {
     return session_.reporter.handled(u"cListHandler.fncGetSel", [&] {
         const auto selected = spreadsheet_.selection();
-        return cellAddress(selected.row(), selected.column());
+        // One after the other: the order of arguments is the compiler's.
+        const auto row = selected.row();
+        return cellAddress(row, selected.column());
     });
 }
 
