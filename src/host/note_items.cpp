@@ -10,10 +10,10 @@ using automation::Variant;
 
 namespace {
 
-template <class T, outlook::ObjectClass Class>
+template <class T, outlook::ObjectClass objectClass>
 LocalMember<T> classMember()
 {
-    return {u"Class", [](T&, const Arguments&) -> Variant { return static_cast<std::int32_t>(Class); }};
+    return {u"Class", [](T&, const Arguments&) -> Variant { return static_cast<std::int32_t>(objectClass); }};
 }
 
 } // namespace

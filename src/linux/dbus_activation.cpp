@@ -41,7 +41,7 @@ std::filesystem::path writeServiceFile(
 {
     std::filesystem::create_directories(folder);
     const std::string name = busName(className).toStdString();
-    const std::filesystem::path path = folder / (name + ".service");
+    std::filesystem::path path = folder / (name + ".service");
     std::ofstream file{path};
     file << "[D-BUS Service]\nName=" << name << "\nExec=" << escaped(commandLineOf(command)) << '\n';
     file.close();
