@@ -18,7 +18,7 @@ constexpr const char* descriptionFile = "RFDescription.htm";
 /// Writes a file of the temporary folder. A reader sees the old one or the new one, never half of one.
 std::filesystem::path writeTemporary(const char* name, const std::string& content)
 {
-    const std::filesystem::path path = std::filesystem::temp_directory_path() / name;
+    std::filesystem::path path = std::filesystem::temp_directory_path() / name;
     const std::filesystem::path fresh = path.string() + ".new";
     std::ofstream file{fresh, std::ios::binary};
     file << content;

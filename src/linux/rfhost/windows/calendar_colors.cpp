@@ -51,7 +51,7 @@ QColor CalendarColors::strip(std::int32_t busyStatus) const
     case outlook::BusyStatus::Tentative:
         return mixed(accent, background, tentative);
     case outlook::BusyStatus::OutOfOffice:
-        return QColor{0x88, 0x17, 0x98};
+        return QColor{QStringLiteral("#881798")};
     case outlook::BusyStatus::Busy:
         break;
     }

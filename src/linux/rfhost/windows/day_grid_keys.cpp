@@ -32,9 +32,10 @@ bool DayGrid::pressOnEntry(const QKeyEvent& event)
     case Qt::Key_Down:
         if (alt && shift && !times.allDay)
             actions_.move(*chosen_,
-                {times.start, host::withEnd(times, times.end.plusMinutes(steps * host::slotMinutes)).end, false});
+                {times.start, host::withEnd(times, times.end.plusMinutes(std::int64_t{steps} * host::slotMinutes)).end,
+                    false});
         else if (alt && !times.allDay)
-            moveBy(steps * host::slotMinutes);
+            moveBy(std::int64_t{steps} * host::slotMinutes);
         return alt;
     case Qt::Key_Left:
     case Qt::Key_Right:

@@ -37,7 +37,7 @@ void paintHours(QPainter& painter, const DayPicture& picture)
         painter.setPen(picture.colors.faintLine);
         painter.drawLine(geometry.hoursWidth, y + geometry.hourHeight / 2, geometry.width, y + geometry.hourHeight / 2);
         painter.setPen(picture.colors.quietText);
-        const Date time = geometry.shown.first.plusMinutes(hour * minutesOfAnHour);
+        const Date time = geometry.shown.first.plusMinutes(std::int64_t{hour} * minutesOfAnHour);
         painter.drawText(QRect{0, y, geometry.hoursWidth - 2 * DayGeometry::gap, geometry.hourHeight},
             Qt::AlignRight | Qt::AlignTop, timeText(time));
     }
