@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace rf::native {
 
@@ -37,15 +38,16 @@ void ItemListPane::show(const host::FolderRecord& folder)
     title_->setText(qtText(folder.name));
     list_->clear();
     auto ids = model_->store().items(folder.id);
-    for (auto id = ids.rbegin(); id != ids.rend(); ++id) {
-        const auto record = model_->store().read(*id);
+    std::ranges::reverse(ids);
+    for (const host::ItemId id : ids) {
+        const auto record = model_->store().read(id);
         if (!record)
             continue;
         auto* const item = new QTreeWidgetItem{list_,
             {qtText(record->subject), qtText(record->to),
                 shortDayText(record->lastModificationTime) + QLatin1Char{' '}
                     + timeText(record->lastModificationTime)}};
-        item->setData(0, Qt::UserRole, static_cast<qlonglong>(*id));
+        item->setData(0, Qt::UserRole, static_cast<qlonglong>(id));
     }
     list_->resizeColumnToContents(0);
 }

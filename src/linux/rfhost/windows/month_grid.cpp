@@ -107,8 +107,10 @@ MonthGrid::Picture MonthGrid::arranged() const
                 picture.lines.push_back({bar.entry, rectOf(bar, week)});
                 continue;
             }
-            for (int day = bar.firstDay; day < bar.endDay; ++day)
-                ++picture.hidden[static_cast<std::size_t>(week * daysInWeek + day)];
+            for (int day = bar.firstDay; day < bar.endDay; ++day) {
+                const int shownDay = week * daysInWeek + day;
+                ++picture.hidden[static_cast<std::size_t>(shownDay)];
+            }
         }
     }
     return picture;
