@@ -38,8 +38,9 @@ Text webColor(std::int32_t color)
     constexpr TextView digits = u"0123456789abcdef";
     Text text = u"#";
     for (int part = 0; part < 3; ++part, color >>= 8) {
-        text += digits[static_cast<std::size_t>((color >> 4) & 0xF)];
-        text += digits[static_cast<std::size_t>(color & 0xF)];
+        const auto share = static_cast<std::size_t>(color & 0xFF);
+        text += digits[share / digits.size()];
+        text += digits[share % digits.size()];
     }
     return text;
 }
