@@ -183,7 +183,8 @@ ui::WindowHandle QtToolkit::findWindow(TextView caption)
 std::int32_t QtToolkit::twipsPerPixel()
 {
     const QScreen* screen = hasWindows() ? QGuiApplication::primaryScreen() : nullptr;
-    return screen == nullptr ? twipsOfAnUnknownScreen : static_cast<std::int32_t>(1440 / screen->logicalDotsPerInch());
+    return screen == nullptr ? twipsOfAnUnknownScreen
+                             : static_cast<std::int32_t>(Twips::twipsPerInch / screen->logicalDotsPerInch());
 }
 
 void QtToolkit::activateWindow(TextView caption)

@@ -11,6 +11,8 @@ namespace rf::native {
 /// Twips and the units of a screen, by the logical dots per inch of that screen.
 class Twips {
 public:
+    static constexpr double twipsPerInch = 1440;
+
     explicit Twips(const QPaintDevice& device)
         : perInchX_(device.logicalDpiX())
         , perInchY_(device.logicalDpiY())
@@ -33,8 +35,6 @@ public:
     }
 
 private:
-    static constexpr double twipsPerInch = 1440;
-
     [[nodiscard]] static int pixels(std::int32_t twips, int perInch)
     {
         return static_cast<int>(std::lround(twips * perInch / twipsPerInch));
