@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <string_view>
+#include <string>
 #include <vector>
 
 namespace {
@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const bool isPlaced = ::setenv("TZ", "Europe/Brussels", 1) == 0;
     static const std::unique_ptr<RecurrenceEngine> engine = makeRecurrenceEngine();
     static_cast<void>(isPlaced);
-    const std::string_view bytes{reinterpret_cast<const char*>(data), size};
+    const std::string bytes{data, data + size};
     const std::vector<ItemRecord> items = itemsOf(readCalendar(bytes));
     expandAll(*engine, items);
     // Whatever a text says that is none, what is written of it says it well.

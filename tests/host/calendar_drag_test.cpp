@@ -11,11 +11,11 @@ Date at(int day, int hour, int minute = 0)
     return Date::fromFields({.year = 2007, .month = 3, .day = day, .hour = hour, .minute = minute});
 }
 
-const AppointmentTimes meeting{at(5, 10), at(5, 11)};
+AppointmentTimes meeting() { return {at(5, 10), at(5, 11)}; }
 
 TEST(CalendarDrag, MovesABookingAndKeepsItsLength)
 {
-    EXPECT_EQ(draggedTimes(meeting, DragPart::Whole, {at(5, 10, 20), at(7, 14, 20)}),
+    EXPECT_EQ(draggedTimes(meeting(), DragPart::Whole, {at(5, 10, 20), at(7, 14, 20)}),
         (AppointmentTimes{at(7, 14), at(7, 15)}));
 }
 
@@ -36,17 +36,17 @@ TEST(CalendarDrag, MovesABookingToTheBeginOfASlot)
 TEST(CalendarDrag, StretchesABookingToTheSlotUnderThePointer)
 {
     EXPECT_EQ(
-        draggedTimes(meeting, DragPart::End, {at(5, 11), at(5, 11, 50)}), (AppointmentTimes{at(5, 10), at(5, 12)}));
-    EXPECT_EQ(
-        draggedTimes(meeting, DragPart::Start, {at(5, 10), at(5, 9, 20)}), (AppointmentTimes{at(5, 9, 15), at(5, 11)}));
+        draggedTimes(meeting(), DragPart::End, {at(5, 11), at(5, 11, 50)}), (AppointmentTimes{at(5, 10), at(5, 12)}));
+    EXPECT_EQ(draggedTimes(meeting(), DragPart::Start, {at(5, 10), at(5, 9, 20)}),
+        (AppointmentTimes{at(5, 9, 15), at(5, 11)}));
 }
 
 TEST(CalendarDrag, LeavesABookingOneSlotAtLeast)
 {
     EXPECT_EQ(
-        draggedTimes(meeting, DragPart::End, {at(5, 11), at(5, 8)}), (AppointmentTimes{at(5, 10), at(5, 10, 15)}));
+        draggedTimes(meeting(), DragPart::End, {at(5, 11), at(5, 8)}), (AppointmentTimes{at(5, 10), at(5, 10, 15)}));
     EXPECT_EQ(
-        draggedTimes(meeting, DragPart::Start, {at(5, 10), at(5, 15)}), (AppointmentTimes{at(5, 10, 45), at(5, 11)}));
+        draggedTimes(meeting(), DragPart::Start, {at(5, 10), at(5, 15)}), (AppointmentTimes{at(5, 10, 45), at(5, 11)}));
 }
 
 TEST(CalendarDrag, MovesAnAllDayEventByWholeDays)
@@ -57,7 +57,7 @@ TEST(CalendarDrag, MovesAnAllDayEventByWholeDays)
 
 TEST(CalendarDrag, KeepsTheTimeOfDayBetweenDays)
 {
-    EXPECT_EQ(draggedDays(meeting, {at(5, 23), at(3, 1)}), (AppointmentTimes{at(3, 10), at(3, 11)}));
+    EXPECT_EQ(draggedDays(meeting(), {at(5, 23), at(3, 1)}), (AppointmentTimes{at(3, 10), at(3, 11)}));
 }
 
 TEST(CalendarDrag, ChoosesSlotsInEitherDirection)
