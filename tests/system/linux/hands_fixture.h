@@ -29,6 +29,11 @@ protected:
             std::cerr << "The host: " << atHost.everything();
         if (HasFailure() && atProgram.isThere())
             std::cerr << "The program: " << atProgram.everything();
+        // A program that loses its host in the middle of a call shows a report, and nobody would answer it.
+        if (host != nullptr) {
+            host->terminate();
+            static_cast<void>(host->waitForEnd(5s));
+        }
         Installed::TearDown();
     }
 
