@@ -3,6 +3,7 @@
 #include "window_fixture.h"
 
 #include <QPrinter>
+#include <QStringEncoder>
 #include <QTcpServer>
 #include <QTemporaryDir>
 #include <QTextBrowser>
@@ -26,7 +27,7 @@ struct Browser : WindowFixture {
     QWidget window;
     QTextBrowser* view = qobject_cast<QTextBrowser*>(content->makeView(&window));
 
-    Text write(const QByteArray& bytes)
+    [[nodiscard]] Text write(const QByteArray& bytes) const
     {
         const QString path = folder.filePath(QStringLiteral("OWCPrint.htm"));
         QFile file{path};
@@ -46,7 +47,8 @@ TEST_F(Browser, ShowsAPageOfThisMachine)
 TEST_F(Browser, ReadsAPageInTheUnitsThatItsWriterHas)
 {
     const QString page = QString::fromUtf8("<p>\xCE\x91\xCE\xB8\xCE\xAE\xCE\xBD\xCE\xB1</p>");
-    const QByteArray units{reinterpret_cast<const char*>(page.utf16()), page.size() * 2};
+    QStringEncoder encoder{QStringConverter::Utf16LE};
+    const QByteArray units = encoder(page);
     browser.navigate2(write("\xFF\xFE" + units));
     EXPECT_EQ(view->toPlainText(), QString::fromUtf8("\xCE\x91\xCE\xB8\xCE\xAE\xCE\xBD\xCE\xB1"));
 }
