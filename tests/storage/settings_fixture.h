@@ -15,7 +15,6 @@ protected:
         : transport(std::move(way))
     {
         runHost();
-        // NOLINTNEXTLINE(cppcoreguidelines-prefer-member-initializer): the host has to run before.
         root = host::ensureRoomfoldRoot(*store, u"Roomfold", u"file:///pages/Roomfold.htm");
         attach(session);
     }
