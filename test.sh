@@ -75,8 +75,10 @@ tell_failures() {
     done
 }
 
-# Qt makes its folder of the session there when the system has none for the user.
-nothing_left() { [ -z "$(find "$TMPDIR" -mindepth 1 -not -path "$TMPDIR/runtime-*" -print | tee /dev/stderr)" ]; }
+# Qt makes its folder of the session there when the system has none for the user, and Wine that of its server.
+nothing_left() {
+    [ -z "$(find "$TMPDIR" -mindepth 1 -not -path "$TMPDIR/runtime-*" -not -path "$TMPDIR/wine-*" -print | tee /dev/stderr)" ]
+}
 
 # summary LABEL LOG...: "Linux: N passed, N failed, N skipped", and the skipped tests by name.
 summary() {
