@@ -207,7 +207,7 @@ TEST_F(BookingProgram, OpensTheOrdersFormAndClosesItWithItsWindow)
     ASSERT_TRUE(hasBar(another));
     another.currentItem().save();
     EXPECT_TRUE(another.currentItem().saved());
-    EXPECT_FALSE(within(1s, [&] { return statusOfProgram().has_value(); })) << "the program has ended";
+    EXPECT_FALSE(test::within(1s, [&] { return statusOfProgram().has_value(); })) << "the program has ended";
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/environment_variable.h"
+#include "support/within.h"
 
 #include "dbus_processes.h"
 #include "sqlite_fixture.h"
@@ -39,7 +40,7 @@ struct HostProgram : testing::Test {
         // The program goes with the host; without it nobody would end it.
         host.reset();
         const auto id = program();
-        if (id && !within(settleTime, [&] { return statusOfProgram().has_value(); }))
+        if (id && !test::within(settleTime, [&] { return statusOfProgram().has_value(); }))
             kill(*id, SIGKILL);
     }
 
@@ -73,20 +74,12 @@ struct HostProgram : testing::Test {
     [[nodiscard]] std::optional<int> program() const { return numberIn("id"); }
     [[nodiscard]] std::optional<int> statusOfProgram() const { return numberIn("status"); }
 
-    template <class Condition>
-    [[nodiscard]] static bool within(std::chrono::milliseconds limit, Condition&& condition)
-    {
-        const auto end = std::chrono::steady_clock::now() + limit;
-        while (!condition() && std::chrono::steady_clock::now() < end)
-            std::this_thread::sleep_for(std::chrono::milliseconds{10});
-        return condition();
-    }
-
     /// Waits until the program has had the time to attach itself and to listen.
     void waitForProgram() const
     {
-        ASSERT_TRUE(within(startTime, [&] { return program().has_value(); }));
-        ASSERT_FALSE(within(settleTime, [&] { return statusOfProgram().has_value(); })) << "the program did not stay";
+        ASSERT_TRUE(test::within(startTime, [&] { return program().has_value(); }));
+        ASSERT_FALSE(test::within(settleTime, [&] { return statusOfProgram().has_value(); }))
+            << "the program did not stay";
     }
 };
 

@@ -25,7 +25,7 @@ TEST_F(HostProgram, WritesTheSelectionAndStartsTheProgramWhenTheRootFolderIsShow
 TEST_F(HostProgram, StartsNothingWhenAnotherFolderIsShown)
 {
     serve({"--show", "Mailbox - Jane Doe/Calendar"});
-    EXPECT_FALSE(within(2s, [&] { return program().has_value(); }));
+    EXPECT_FALSE(test::within(2s, [&] { return program().has_value(); }));
     EXPECT_TRUE(host::test::bytesOf(folder.file("RFSel.txt")).empty());
 }
 
@@ -34,7 +34,7 @@ TEST_F(HostProgram, EndsAndItsProgramWithIt)
     serve();
     waitForProgram();
     host->terminate();
-    EXPECT_TRUE(within(2s, [&] { return statusOfProgram().has_value(); }));
+    EXPECT_TRUE(test::within(2s, [&] { return statusOfProgram().has_value(); }));
     EXPECT_EQ(statusOfProgram(), 0);
     EXPECT_EQ(host->waitForEnd(2s), 0);
 }
@@ -44,7 +44,7 @@ TEST_F(HostProgram, TakesItsProgramAlongWhenItIsKilled)
     serve();
     waitForProgram();
     host->end();
-    EXPECT_TRUE(within(2s, [&] { return statusOfProgram().has_value(); }));
+    EXPECT_TRUE(test::within(2s, [&] { return statusOfProgram().has_value(); }));
     EXPECT_EQ(statusOfProgram(), 0);
 }
 
@@ -53,7 +53,7 @@ TEST_F(HostProgram, LosesItsProgramWithTheBus)
     serve();
     waitForProgram();
     bus.end();
-    EXPECT_TRUE(within(4s, [&] { return statusOfProgram().has_value(); }));
+    EXPECT_TRUE(test::within(4s, [&] { return statusOfProgram().has_value(); }));
     EXPECT_EQ(statusOfProgram(), 0);
     EXPECT_EQ(host->waitForEnd(4s), 1);
 }
@@ -133,7 +133,7 @@ TEST(WindowsOfTheHost, AreShownToNobodyOnlyWhenTheyAreAskedFor)
 TEST_F(HostProgram, RefusesToServeABusThatIsServed)
 {
     serve();
-    ASSERT_TRUE(within(30s, [&] { return program().has_value(); }));
+    ASSERT_TRUE(test::within(30s, [&] { return program().has_value(); }));
     EXPECT_EQ(run({"serve", "--user", "Jane Doe"}), 1);
 }
 

@@ -3,6 +3,7 @@
 #include "host/installation.h"
 #include "host/sqlite_store.h"
 #include "support/environment_variable.h"
+#include "support/within.h"
 
 #include "linux/dbus_processes.h"
 #include "linux/sqlite_fixture.h"
@@ -24,18 +25,6 @@ inline constexpr const char* person = "Jane Doe";
 inline constexpr TextView rootPath = u"\\\\Public Folders\\All Public Folders\\Roomfold";
 inline constexpr TextView masterPath = u"\\\\Public Folders\\All Public Folders\\All bookings";
 inline constexpr TextView personalPath = u"\\\\Mailbox - Jane Doe\\Calendar";
-
-template <class Condition>
-[[nodiscard]] bool within(std::chrono::milliseconds limit, Condition&& condition)
-{
-    const auto end = std::chrono::steady_clock::now() + limit;
-    while (std::chrono::steady_clock::now() < end) {
-        if (condition())
-            return true;
-        std::this_thread::sleep_for(10ms);
-    }
-    return condition();
-}
 
 /// The processes of an executable that this process has started, by their ids: those of other test runs do not count.
 [[nodiscard]] inline std::vector<pid_t> processesWith(const std::string& variable)
