@@ -29,7 +29,7 @@ newest=$(find src tests .clang-tidy scripts/tidy.sh scripts/clang-tidy \
 newest=${newest#* }
 
 # Tests that are still to be brought under these checks: whoever has made a folder clean takes it out of here.
-pending='/tests/(hands|object_model|orders|system)/|/tests/linux/([a-z_]*window|booking_program|browser|curr_inspector|host_|list_handler|management|orders_|rules_|settings_|spreadsheet_)'
+pending='/tests/(object_model|orders)/|/tests/linux/([a-z_]*window|booking_program|browser|curr_inspector|host_|list_handler|management|orders_|rules_|settings_|spreadsheet_)'
 # Qt's generated sources lie in the build folder and are nobody's to mend.
 sources() {
     sed -n 's/^ *"file": "\(.*\.cpp\)",\{0,1\}$/\1/p' "$database" | sort -u | grep -F "$root/" |
@@ -45,8 +45,10 @@ check() {
     stamp=$(stamp_of "$source")
     started=$stamp.$$
     touch "$started"
+    # A source may include what Qt's tools have generated for it; only the project's own headers are looked at.
     # This Clang's builtins do not serve the standard library's <source_location>.
-    if findings=$(clang-tidy --quiet -p "$stamps" --extra-arg=-isystem"$root/scripts/clang-tidy" "$source" 2>&1); then
+    if findings=$(clang-tidy --quiet -p "$stamps" --header-filter="^$root/(src|tests)/" \
+        --extra-arg=-isystem"$root/scripts/clang-tidy" "$source" 2>&1); then
         mv "$started" "$stamp"
     else
         rm -f "$started" "$stamp"

@@ -66,7 +66,7 @@ QJsonArray rowsOf(const QAbstractItemModel& model, const QModelIndex& parent)
         const QModelIndex index = model.index(row, 0, parent);
         rows.append(QJsonObject{{QStringLiteral("text"), index.data().toString()},
             {QStringLiteral("isTicked"), index.data(Qt::CheckStateRole).toInt() == Qt::Checked}});
-        for (const QJsonValue& below : rowsOf(model, index))
+        for (const auto& below : rowsOf(model, index))
             rows.append(below);
     }
     return rows;

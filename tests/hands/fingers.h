@@ -30,8 +30,8 @@ public:
 
 private:
     struct Mouse {
-        QEvent::Type type;
-        Qt::MouseButton button;
+        QEvent::Type type = QEvent::None;
+        Qt::MouseButton button = Qt::NoButton;
         Qt::MouseButtons held;
     };
     void mouse(QWidget& widget, QPoint place, Mouse mouse);

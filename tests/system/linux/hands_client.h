@@ -199,7 +199,7 @@ private:
             address.sun_family = AF_UNIX;
             std::ranges::copy(entry.path().string(), std::begin(address.sun_path));
             connection_ = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-            // The address of every family is passed as this one.
+            // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): the address of every family is passed so.
             if (::connect(connection_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0)
                 return true;
             letGo();
