@@ -41,6 +41,7 @@ void startWatching(Session& session)
     subGetRoot(session);
     session.objSettings = std::make_unique<cSettings>(session);
     session.objSettings->GetSettings(true);
+    session.objInspectors->subAddProjects();
     session.strUserName = fncGetUserName(session);
     session.objRootExplorer->setOueCurrExplorer(session.ouaApp.activeExplorer());
 }

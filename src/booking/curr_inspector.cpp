@@ -35,6 +35,12 @@ void attemptEach(PendingError& errors, const Steps&... steps)
     (errors.attempt(steps), ...);
 }
 
+bool hasProjects(const Session& session)
+{
+    return session.objSettings && !session.objSettings->isBeingRead()
+        && !session.objSettings->Projects.projects().empty();
+}
+
 bool hideFirst(const outlook::CommandBarControls& controls, std::int32_t id)
 {
     const std::int32_t count = controls.count();
@@ -141,8 +147,19 @@ void cCurrInspector::addControls(const outlook::Inspector& window)
     PendingError errors;
     const auto controls = errors.attempt([&] { return bar.controls(); });
     addButton(controls);
-    if (session_.objSettings && !session_.objSettings->Projects.projects().empty())
+    if (hasProjects(session_))
         addCombo(controls);
+}
+
+void cCurrInspector::subAddProjects()
+{
+    if (!cmdButton_ || cmbProjects_ || !hasProjects(session_))
+        return;
+    const auto bar = fncGetToolbar(session_, ouiCurrInspector_);
+    PendingError errors;
+    addCombo(errors.attempt([&] { return bar.controls(); }));
+    if (blnClosed_)
+        release();
 }
 
 void cCurrInspector::addButton(const outlook::CommandBarControls& controls)

@@ -51,6 +51,9 @@ public:
     void ouiCurrInspector_Activate();
     /// Lets go of everything.
     void ouiCurrInspector_Close();
+    /// Gives a window that has its button the box of the projects, once; none where no project is defined, and none as
+    /// long as the settings are not read.
+    void subAddProjects();
     /// Refuses to save what the rules refuse, which the person may throw away then; gives what they accept its
     /// properties and copies.
     void ouaCurrApp_Write(bool& Cancel);

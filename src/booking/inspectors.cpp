@@ -39,6 +39,14 @@ void cInspectors::ouisInspectors_NewInspector(const outlook::Inspector& inspecto
         form->setOuiPendingInspector(inspector);
 }
 
+void cInspectors::subAddProjects() const
+{
+    // A copy: others may be opened meanwhile, and they have their box from the start.
+    const auto opened = windows_;
+    for (const auto& window : opened)
+        window->subAddProjects();
+}
+
 void cInspectors::subDropClosed()
 {
     // Counted once: what is dropped moves the others up, and what lies beyond the end then is not there.

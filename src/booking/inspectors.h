@@ -27,6 +27,9 @@ public:
     /// set-up; others are left alone. No error leaves it.
     void ouisInspectors_NewInspector(const outlook::Inspector& inspector);
 
+    /// Gives the windows that were opened while the settings were being read their box of the projects.
+    void subAddProjects() const;
+
     /// The appointment windows in the order of their opening.
     [[nodiscard]] const std::vector<std::shared_ptr<cCurrInspector>>& windows() const { return windows_; }
     /// Drops the windows that are done. The one behind a dropped window is looked at the next time.

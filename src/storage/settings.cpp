@@ -88,8 +88,10 @@ void cSettings::GetSettings(bool blnPromptForNewCalendar)
     const outlook::Item item = fncGetSettingsItem();
     if (!item)
         subEndProgram(session_);
+    isBeingRead_ = true;
     for (const SettingKey& key : settingKeys)
         errors.attempt([&] { load(item, key); });
+    isBeingRead_ = false;
     GetCalendars();
     if (blnPromptForNewCalendar)
         promptForCalendars();

@@ -81,6 +81,9 @@ public:
     /// calendars asks for one until there is one or the user declines, which ends the program. It ends too when there
     /// can be no settings item. A value that cannot be read counts as missing.
     void GetSettings(bool blnPromptForNewCalendar);
+    /// Whether the keys are being read: some values are those of the item and others are not yet. The host may raise
+    /// events meanwhile.
+    [[nodiscard]] bool isBeingRead() const { return isBeingRead_; }
     /// Writes every key and saves the item. A key that cannot be written is reported and ends the program before
     /// anything is saved; when saving fails the user is told, and the item is as it was.
     void SaveSettings();
@@ -134,6 +137,7 @@ private:
 
     Session& session_;
     std::int16_t intCurrentLanguage_;
+    bool isBeingRead_ = false;
     outlook::PostItem settingsItem_;
 };
 

@@ -3,6 +3,9 @@
 #include "app/main.h"
 #include "app/root_explorer.h"
 #include "booking/inspectors.h"
+#include "diagnostics/product.h"
+#include "host/inspectors.h"
+#include "host/item_factory.h"
 #include "storage/frm_room.h"
 #include "storage/settings.h"
 #include "support/session_fixture.h"
@@ -18,6 +21,28 @@ protected:
     [[nodiscard]] static bool watches(const Session& session)
     {
         return session.forms.find(frmDummy::formName) != nullptr && session.objSettings != nullptr;
+    }
+
+    /// Settings as an administrator has left them.
+    void writeProjects() const
+    {
+        host::ItemRecord post;
+        post.folder = host::folderAt(*store, u"\\\\Public Folders\\All Public Folders\\Roomfold")->id;
+        post.messageClass = u"IPM.Post";
+        post.subject = u"Settings";
+        post.userProperties = {{u"strProjects0", 1, Text{u"Alpha;255\r\nBeta;128\r\n"}}, {u"strProjectsCount", 3, 0.0},
+            {u"strProjectsCaption", 1, Text{u"Project no."}}};
+        store->save(post);
+    }
+    /// What a person does.
+    [[nodiscard]] std::shared_ptr<host::Inspector> openAppointment() const
+    {
+        auto& model = host->model();
+        const auto item = host::makeItem(model.shared_from_this(),
+            host::newRecord(model, folder(host::FolderRole::Calendar)->id(), u"IPM.Appointment"));
+        auto window = model.inspectors().windowOf(host::itemOf(item));
+        window->display();
+        return window;
     }
 
     Session session{services()};
@@ -227,6 +252,37 @@ TEST_F(Start, SpeaksTheSystemsLanguage)
     Session germanSession{{german, clock, classes, system, processes, toolkit}};
     Main(germanSession);
     EXPECT_EQ(germanSession.language.phrases().LNGADD, u"Hinzufügen");
+}
+
+/// Whenever a person opens a new appointment while the program starts: once it listens to the host's windows, the bar
+/// is whole in the end.
+TEST_F(Start, GivesAWindowThatOpensMeanwhileItsWholeBar)
+{
+    int whole = 0;
+    bool struck = true;
+    for (int use = 1; struck; ++use) {
+        runVisibleInstallation();
+        writeProjects();
+        std::shared_ptr<host::Inspector> window;
+        const auto fault = std::make_shared<test::Fault>();
+        *fault = {.failingUse = use, .instead = [&] { window = openAppointment(); }};
+        classes.runningObjects[Text{outlook::applicationClass}]
+            = test::FaultyDispatch::wrap(automation::Object{host}, fault);
+        Session other{services()};
+        Main(other);
+        struck = window != nullptr;
+        const auto bar = struck ? window->commandBars().find(productCaption) : nullptr;
+        if (bar == nullptr)
+            continue;
+        SCOPED_TRACE("opened at the use " + std::to_string(use));
+        const auto& controls = bar->controls().all();
+        ASSERT_EQ(controls.size(), 2U);
+        EXPECT_EQ(controls.front()->caption(), u"Booking info");
+        EXPECT_EQ(controls.back()->caption(), u"Project no.");
+        EXPECT_EQ(controls.back()->list(), (std::vector<Text>{u"Alpha", u"Beta"}));
+        ++whole;
+    }
+    EXPECT_GT(whole, 100) << "the settings alone are read in more calls";
 }
 
 /// Whichever call of the start the host fails at, the program either watches, as though nothing had happened, or it has
