@@ -13,8 +13,6 @@ Text captionOf(const CommandBarControl& control)
 {
     if (!control.caption().empty())
         return control.caption();
-    if (control.id() == outlook::host_control::inviteAttendees)
-        return u"Invite &Attendees";
     return control.id() == outlook::host_control::refreshPage ? Text{u"&Refresh"} : Text{};
 }
 
@@ -28,6 +26,13 @@ Text withoutMark(const Text& caption)
         text += caption[index];
     }
     return text;
+}
+
+/// Programs look for the control that invites people, and hide it. In a window it would promise what this host does not
+/// do: it sends no mail.
+bool isOffered(const CommandBarControl& control)
+{
+    return control.visible() && control.id() != outlook::host_control::inviteAttendees;
 }
 
 ShownControl shown(const std::shared_ptr<CommandBarControl>& control)
@@ -50,8 +55,10 @@ std::vector<ShownBar> shownBars(const CommandBars& bars)
             continue;
         ShownBar& added = all.emplace_back(ShownBar{bar->name(), bar->position(), {}});
         for (const auto& control : bar->controls().all())
-            if (control->visible())
+            if (isOffered(*control))
                 added.controls.push_back(shown(control));
+        if (added.controls.empty() && !bar->controls().all().empty())
+            all.pop_back();
     }
     return all;
 }

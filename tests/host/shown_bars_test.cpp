@@ -48,7 +48,10 @@ TEST_F(ShownBarsOfAWindow, LeaveOutHiddenControls)
 {
     bar->show();
     Object{add(button, u"Booking info")}.put(u"Visible", false);
-    EXPECT_TRUE(controls().empty());
+    EXPECT_TRUE(shownBars(*bars).empty());
+    add(button, u"Help");
+    ASSERT_EQ(controls().size(), 1U);
+    EXPECT_EQ(controls().front().label, u"Help");
 }
 
 TEST_F(ShownBarsOfAWindow, LabelAComboOnlyWhenItsStyleDoes)
@@ -72,11 +75,20 @@ TEST_F(ShownBarsOfAWindow, HaveNamesForPeopleWhoHearTheScreen)
 
 TEST_F(ShownBarsOfAWindow, NameTheHostsOwnControls)
 {
-    const auto own = CommandBars::ofInspector();
+    const auto own = CommandBars::ofExplorer();
+    EXPECT_TRUE(shownBars(*own).empty());
+    own->find(outlook::host_control::webBar)->show();
     const auto shown = shownBars(*own);
     ASSERT_EQ(shown.size(), 1U);
-    EXPECT_EQ(shown[0].controls.at(0).name, u"Invite Attendees");
-    EXPECT_TRUE(shownBars(*CommandBars::ofExplorer()).empty());
+    EXPECT_EQ(shown[0].controls.at(0).name, u"Refresh");
+}
+
+TEST_F(ShownBarsOfAWindow, OfferNoInvitationThatNobodyWouldSend)
+{
+    const auto own = CommandBars::ofInspector();
+    ASSERT_EQ(own->all().size(), 1U);
+    EXPECT_EQ(own->all().front()->controls().all().front()->id(), outlook::host_control::inviteAttendees);
+    EXPECT_TRUE(shownBars(*own).empty());
 }
 
 TEST_F(ShownBarsOfAWindow, StayTheSameWhileAPersonTypesIntoACombo)

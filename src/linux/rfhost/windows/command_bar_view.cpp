@@ -130,7 +130,7 @@ void CommandBarView::click(const std::shared_ptr<CommandBarControl>& control)
 {
     later(&window_, [pressed = pressed_, control, window = QPointer{&window_}] {
         control->click();
-        if (window != nullptr)
+        if (window != nullptr && pressed)
             pressed(control->id());
     });
 }

@@ -15,7 +15,7 @@ namespace rf::native {
 /// those the programs.
 class CommandBarView {
 public:
-    /// `pressed` hears of the host's own buttons, which no program answers.
+    /// `pressed` hears of every button, by its id: no program answers the host's own ones. It may be empty.
     CommandBarView(QMainWindow& window, std::function<void(std::int32_t id)> pressed);
 
     /// Shows the bars as they are now. One that is as it was stays, and whatever a person does on it goes on.

@@ -6,7 +6,6 @@
 #include "linux/rfhost/windows/message_form.h"
 #include "linux/rfhost/windows/recurrence_dialog.h"
 #include "linux/rfhost/windows/scheduling_page.h"
-#include "outlook/constants.h"
 
 #include <QAction>
 #include <QShortcut>
@@ -41,7 +40,7 @@ void setRecurrence(host::Item& item, const std::optional<host::RecurrenceChoice>
 InspectorWindow::InspectorWindow(const std::shared_ptr<host::Inspector>& inspector)
     : PlacedWindow(inspector->place())
     , inspector_(inspector)
-    , bars_(*this, [this](std::int32_t control) { pressed(control); })
+    , bars_(*this, {})
     , tabs_(new QTabWidget)
     , changes_([this] { refresh(); })
 {
@@ -127,16 +126,6 @@ void InspectorWindow::refresh()
     if (message_ != nullptr)
         message_->refresh();
     takePlace();
-}
-
-void InspectorWindow::pressed(std::int32_t control)
-{
-    if (control != outlook::host_control::inviteAttendees || item().isDeleted())
-        return;
-    auto& status = item().record().meetingStatus;
-    constexpr auto none = static_cast<std::int32_t>(outlook::MeetingStatus::NonMeeting);
-    status = status == none ? static_cast<std::int32_t>(outlook::MeetingStatus::Meeting) : none;
-    item().touch();
 }
 
 void InspectorWindow::chooseRecurrence()

@@ -36,7 +36,6 @@ private:
     void addPage(QWidget* page, TextView name);
     void refresh();
     void showPages();
-    void pressed(std::int32_t control);
     void chooseRecurrence();
     void saveAndClose();
     void save();
