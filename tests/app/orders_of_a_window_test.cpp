@@ -126,5 +126,90 @@ TEST_F(OrdersFormOfAWindow, IsOneForEachWindow)
     EXPECT_TRUE(isShown());
 }
 
+/// A booking that is in the store, and a second object of it.
+class OrdersFormOfAStoredBooking : public OrdersFormOfAWindow {
+protected:
+    OrdersFormOfAStoredBooking() { window->item().save(); }
+
+    [[nodiscard]] host::ItemId id() const { return window->item().record().id; }
+    [[nodiscard]] std::shared_ptr<host::Inspector> openAgain() const
+    {
+        const auto item = host::makeItem(host->model().shared_from_this(), *store->read(id()));
+        auto again = host->model().inspectors().windowOf(host::itemOf(item));
+        again->display();
+        return again;
+    }
+    /// OK with another booker, whichever form is in front.
+    void bookFor(TextView booker)
+    {
+        toolkit.lastWindow()->replace(u"txtBooker", booker);
+        toolkit.lastWindow()->press(u"cmdOK");
+    }
+    [[nodiscard]] bool watches() const { return static_cast<bool>(session.ouaApp); }
+
+    std::shared_ptr<host::Inspector> window = open();
+};
+
+TEST_F(OrdersFormOfAStoredBooking, InTwoWindowsOnOneItemIsTheOneThatIsSavedLast)
+{
+    const auto second = openAgain();
+    pressBookingInfo(*window);
+    pressBookingInfo(*second);
+    ASSERT_EQ(toolkit.formWindows.size(), 2U);
+    bookFor(u"Rita Roe");
+    bookFor(u"John Roe");
+    EXPECT_EQ(organizerOf(*second), u"Rita Roe");
+    EXPECT_EQ(organizerOf(*window), u"John Roe");
+    second->item().save();
+    window->item().save();
+    const auto third = openAgain();
+    EXPECT_EQ(organizerOf(*third), u"John Roe");
+    EXPECT_TRUE(watches());
+}
+
+TEST_F(OrdersFormOfAStoredBooking, GoesWithAnItemThatItsWindowDeletes)
+{
+    pressBookingInfo(*window);
+    window->item().remove();
+    EXPECT_FALSE(isShown());
+    EXPECT_TRUE(toolkit.formWindows.empty());
+    EXPECT_TRUE(watches());
+}
+
+TEST_F(OrdersFormOfAStoredBooking, OfAnItemThatSomebodyElseDeletesLeavesNothingBehind)
+{
+    pressBookingInfo(*window);
+    ASSERT_TRUE(store->remove(id()));
+    bookFor(u"Rita Roe");
+    EXPECT_FALSE(isShown());
+    EXPECT_THROW(window->item().save(), RuntimeError) << "the person is told in the window";
+    EXPECT_TRUE(store->items(window->item().record().folder).empty());
+    window->close(host::CloseMode::Discard);
+    EXPECT_TRUE(watches());
+    EXPECT_TRUE(toolkit.messages.empty());
+}
+
+TEST_F(OrdersFormOfAStoredBooking, OfACalendarThatIsRemovedIsReportedAndEndsTheProgram)
+{
+    pressBookingInfo(*window);
+    const auto calendar = window->item().record().folder;
+    store->removeFolder(calendar);
+    EXPECT_THROW(bookFor(u"Rita Roe"), ProgramEnded);
+    ASSERT_EQ(toolkit.messages.size(), 1U);
+    EXPECT_TRUE(toolkit.messages.front().text.starts_with(u"There has been an error in this application"))
+        << toUtf8(toolkit.messages.front().text);
+    EXPECT_TRUE(toolkit.formWindows.empty());
+    EXPECT_FALSE(store->folder(calendar));
+}
+
+TEST_F(OrdersFormOfAWindow, WhoseHostQuitsGoesWithTheProgram)
+{
+    const auto window = open();
+    pressBookingInfo(*window);
+    EXPECT_THROW(host->quit(), ProgramEnded);
+    EXPECT_TRUE(toolkit.formWindows.empty());
+    EXPECT_TRUE(toolkit.messages.empty());
+}
+
 } // namespace
 } // namespace rf::test

@@ -27,9 +27,10 @@ inline void offerSpreadsheets(RecordingToolkit& toolkit, std::vector<std::unique
 /// Names of supplies as people give them, and worse.
 inline std::vector<Text> oddNames()
 {
-    return {u"Coffee", u"Tea and biscuits", u" Tea with  blanks ", u"\"Quoted\" 'water'", u"<b>Cake</b> & more",
-        u"\u05E7\u05E4\u05D4 \u05E9\u05D7\u05D5\u05E8", u"\u0645\u0627\u0621", Text(200, u'W'), u"007", u"1,5", u"=1+1",
-        u"2024-02-03", u"TRUE", u"\U0001F370", u"Caf\u00E9", u"-5"};
+    return {u"Coffee", u"Tea and biscuits", u" Tea with  blanks ", u"\u2003Wide\u00A0and\u200Bnone\u2003",
+        u"\"Quoted\" 'water'", u"<b>Cake</b> & more", u"\u05E7\u05E4\u05D4 \u05E9\u05D7\u05D5\u05E8",
+        u"\u0645\u0627\u0621", Text(200, u'W'), u"007", u"1,5", u"=1+1", u"2024-02-03", u"TRUE", u"\U0001F370",
+        u"Caf\u00E9", u"-5"};
 }
 
 /// So many names, odd ones first, all different.

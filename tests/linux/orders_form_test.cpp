@@ -109,6 +109,20 @@ TEST_F(OrdersFormOverSpreadsheet, ShowsATotalBeyondAllMoneyAsTheSheetHasIt)
     EXPECT_EQ(ordersOf(item), u"Hall\t1000000000000\r\n");
 }
 
+TEST_F(OrdersFormOverSpreadsheet, CountsAQuantityBeyondAllNumbersAsNoneWhenItIsReadAgain)
+{
+    supply(u"Cup", 10000);
+    const auto item = booking();
+    open(item);
+    type(u"C2", 3e9);
+    EXPECT_EQ(sum(), money(30'000'000'000'000));
+    window().press(u"cmdOK");
+    EXPECT_EQ(ordersOf(item), u"Cup\t3000000000\r\n");
+    open(item);
+    EXPECT_EQ(value(u"C2"), Variant{0});
+    EXPECT_TRUE(toolkit.messages.empty());
+}
+
 TEST_F(OrdersFormOverSpreadsheet, EndsTheCheckOfATotalFrom32768On)
 {
     supply(u"Hall", 327670000);
