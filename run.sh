@@ -10,13 +10,14 @@
 #                    begins anew
 #
 # Without a calendar it takes tests/data/conference-2024.ics. The installation lies in $RF_DEMO, else in
-# rfbookinginfo-demo in the user's data folder. The exit status is 0 when all was as it should be.
+# rfbookinginfo-demo in the user's data folder. Where there is no screen the windows are drawn off screen in the end: a
+# booking by hand, step by step, as pictures in the same folder. The exit status is 0 when all was as it should be.
 set -euo pipefail
 caller=$PWD
 cd "$(dirname "$0")"
 . scripts/packages.sh
 
-usage() { sed -n '2,14s/^# \{0,1\}//p' run.sh; }
+usage() { sed -n '2,15s/^# \{0,1\}//p' run.sh; }
 
 fresh=no
 stay=no
@@ -39,7 +40,8 @@ mkdir -p build/logs
 install_packages $build_packages $run_packages
 log=build/logs/run-build.log
 echo "Building (log: $log)"
-if ! { cmake --preset linux -DRF_BENCH=OFF && cmake --build --preset linux --target RFBookingInfo rfhost rfdemo; } > "$log" 2>&1; then
+targets="RFBookingInfo rfhost rfdemo booking_by_hand"
+if ! { cmake --preset linux -DRF_BENCH=OFF && cmake --build --preset linux --target $targets; } > "$log" 2>&1; then
     tail -n 40 "$log"
     echo "The build failed." >&2
     exit 1
@@ -55,26 +57,30 @@ demo=$(realpath "$demo")
 store=$demo/store.db
 # The host and the program leave their temporary files, and the selection file, with the demonstration.
 export TMPDIR=$demo/temporary
-# Without a screen they write to standard error. Windows are for who sits here: a message in one waits for an answer, and
-# a platform without a screen would draw where nobody looks.
+# Windows are for who sits here. Without a terminal nobody may: a display that is named all the same may be gone, and an
+# error report in a window would wait for ever. A platform without a screen would draw where nobody looks.
 [ -t 0 ] || unset DISPLAY WAYLAND_DISPLAY
 [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || unset QT_QPA_PLATFORM
 
 bus=
 host=
 client=
+hands=
+# end GROUP: asks the first process of a group to end. The others end with it; the group is theirs alone, should one of
+# them not.
+end() {
+    kill -TERM "$1" 2> /dev/null || true
+    for _ in $(seq 30); do
+        kill -0 -- "-$1" 2> /dev/null || break
+        sleep 0.1
+    done
+    kill -KILL -- "-$1" 2> /dev/null || true
+}
 finish() {
     trap - EXIT INT TERM HUP
     [ -z "$client" ] || kill "$client" 2> /dev/null || true
-    # The program ends with the host; the group is theirs alone, should one of them not.
-    if [ -n "$host" ]; then
-        kill -TERM "$host" 2> /dev/null || true
-        for _ in $(seq 30); do
-            kill -0 -- "-$host" 2> /dev/null || break
-            sleep 0.1
-        done
-        kill -KILL -- "-$host" 2> /dev/null || true
-    fi
+    [ -z "$hands" ] || end "$hands"
+    [ -z "$host" ] || end "$host"
     [ -z "$bus" ] || kill "$bus" 2> /dev/null || true
     wait 2> /dev/null || true
 }
@@ -140,6 +146,16 @@ EOF
 if [ $stay = yes ] && [ $status = 0 ]; then
     echo "The host and the program stay; Ctrl-C ends them."
     wait "$host" || true
+elif [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    # A user has one program at a time.
+    end "$host"
+    host=
+    echo
+    echo "The windows, off screen, as a person drives them, in an installation of their own:"
+    # In the background and in a group of its own, as the host.
+    setsid setpriv --pdeathsig TERM "$bin/booking_by_hand" "$demo/pictures" &
+    hands=$!
+    wait "$hands" || status=$?
 fi
 [ $status = 0 ] || echo "Not all was as it should be." >&2
 exit "$status"

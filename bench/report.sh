@@ -183,6 +183,14 @@ readPropertyAgainstEmptyCall|property read over D-Bus|read_us|us|-
 readPropertyAgainstEmptyCall|    against an empty call|ratio|times|< 1.5
 drawWeek/1000|week drawn from 1,000 bookings|time|ms|-
 drawWeek/100000|week drawn from 100,000 bookings|time|ms|< 50
+openAppointmentWindow|appointment window opened until its bar shows|median_ms|ms|< 150
+openAppointmentWindow|    calls of the program|calls||-
+pressBookingInfo|orders form of 99 supplies opened by hand|median_ms|ms|< 200
+pressBookingInfo|    calls of the program|calls||-
+typeQuantityByHand|quantity typed by hand until its total shows|median_ms|ms|< 20
+typeQuantityByHand|    calls of the program|calls||-
+saveBookingByHand|booking saved by hand with both copies|median_ms|ms|< 60
+saveBookingByHand|    calls of the program|calls||-
 importConference|conference-2019.ics imported|time|ms|< 1000
 ROWS
 exit $status

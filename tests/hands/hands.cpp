@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QJsonDocument>
 #include <QPalette>
+#include <QPointer>
 
 namespace rf::test {
 
@@ -37,12 +38,20 @@ QModelIndex entryOf(const QAbstractItemView& view, const QString& text)
     return found.isEmpty() ? QModelIndex{} : found.front();
 }
 
+void send(QLocalSocket& test, const QJsonObject& answer)
+{
+    test.write(QJsonDocument{answer}.toJson(QJsonDocument::Compact) + '\n');
+    test.flush();
+}
+
 void darken()
 {
     constexpr QColor window{53, 53, 53};
     constexpr QColor base{35, 35, 35};
     QPalette palette{window};
     palette.setColor(QPalette::Base, base);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, Qt::darkGray);
     QApplication::setPalette(palette);
 }
 
@@ -66,9 +75,21 @@ void Hands::hear(QLocalSocket& test)
 {
     while (test.canReadLine()) {
         const QJsonObject question = QJsonDocument::fromJson(test.readLine()).object();
-        test.write(QJsonDocument{answer(question)}.toJson(QJsonDocument::Compact) + '\n');
-        test.flush();
+        if (question[QStringLiteral("do")].toString() == u"await")
+            await(test, question);
+        else
+            send(test, answer(question));
     }
+}
+
+void Hands::await(QLocalSocket& test, const QJsonObject& question)
+{
+    lookout_.await(
+        {placeIn(question), question[QStringLiteral("text")].toString(), question[QStringLiteral("isGone")].toBool()},
+        [heard = QPointer{&test}] {
+            if (heard != nullptr)
+                send(*heard, {{QStringLiteral("done"), true}});
+        });
 }
 
 QJsonObject Hands::answer(const QJsonObject& question)

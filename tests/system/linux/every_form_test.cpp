@@ -65,7 +65,7 @@ using LongCaption = ByHand;
 TEST_F(LongCaption, IsFoundWhereItDoesNotFit)
 {
     const std::string name = "A place setting whose name is longer than any room that a form has for it";
-    giveSettings(u"Theatre\r\n" + fromUtf8(name));
+    giveSettings({.placeSettings = u"Theatre\r\n" + fromUtf8(name)});
     makeRooms({u"Room 1"});
     serveWithWindows();
     ASSERT_TRUE(atHost.sees("explorer", "hours"));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "given_settings.h"
 #include "host/installation.h"
 #include "host/sqlite_store.h"
 #include "support/environment_variable.h"
@@ -20,11 +21,6 @@ using namespace std::chrono_literals;
 
 /// More and longer rounds of what happens at random.
 [[nodiscard]] inline bool slowTests() { return std::getenv("RF_SLOW_TESTS") != nullptr; }
-
-inline constexpr const char* person = "Jane Doe";
-inline constexpr TextView rootPath = u"\\\\Public Folders\\All Public Folders\\Roomfold";
-inline constexpr TextView masterPath = u"\\\\Public Folders\\All Public Folders\\All bookings";
-inline constexpr TextView personalPath = u"\\\\Mailbox - Jane Doe\\Calendar";
 
 /// The processes of an executable that this process has started, by their ids: those of other test runs do not count.
 [[nodiscard]] inline std::vector<pid_t> processesWith(const std::string& variable)
