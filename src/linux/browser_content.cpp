@@ -32,6 +32,9 @@ public:
     {
         setOpenLinks(false);
         setUndoRedoEnabled(false);
+        setFrameShape(QFrame::NoFrame);
+        constexpr qreal margin = 16;
+        document()->setDocumentMargin(margin);
     }
     /// Pictures, style sheets, frames: an empty answer keeps Qt from looking for them.
     QVariant loadResource(int, const QUrl&) override { return QByteArray{}; }

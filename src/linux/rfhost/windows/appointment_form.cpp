@@ -57,7 +57,9 @@ QTimeEdit* makeTimeBox(const char* objectName, const char* accessibleName)
 
 QLayout* inARow(std::initializer_list<QWidget*> widgets)
 {
+    constexpr int between = 8;
     auto* const row = new QHBoxLayout;
+    row->setSpacing(between);
     for (QWidget* widget : widgets)
         row->addWidget(widget);
     row->addStretch(1);
@@ -128,6 +130,8 @@ AppointmentForm::AppointmentForm(std::shared_ptr<host::Item> item)
 void AppointmentForm::build()
 {
     layout_->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    constexpr int betweenLabelAndField = 12;
+    layout_->setHorizontalSpacing(betweenLabelAndField);
     layout_->addRow(QStringLiteral("Su&bject:"), subject_);
     layout_->addRow(QStringLiteral("L&ocation:"), location_);
     layout_->addRow(QStringLiteral("&Attendees:"), attendees_);

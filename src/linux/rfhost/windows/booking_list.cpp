@@ -32,6 +32,7 @@ BookingList::BookingList(CalendarActions actions)
     setUniformRowHeights(true);
     RoomyRows::giveTo(*this);
     setAlternatingRowColors(true);
+    setAllColumnsShowFocus(true);
     setHeaderLabels({QStringLiteral("Start"), QStringLiteral("End"), QStringLiteral("Subject"),
         QStringLiteral("Location"), QStringLiteral("Categories")});
     connect(this, &QTreeWidget::itemActivated, this, [this] {

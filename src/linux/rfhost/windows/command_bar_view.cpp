@@ -111,6 +111,8 @@ void CommandBarView::addCombo(QToolBar& bar, const ShownControl& shown)
     if (!shown.label.empty()) {
         auto* const label = new QLabel{qtText(shown.label)};
         label->setBuddy(combo);
+        constexpr int beside = 6;
+        label->setContentsMargins(beside, 0, beside, 0);
         bar.addWidget(label);
     }
     bar.addWidget(combo);

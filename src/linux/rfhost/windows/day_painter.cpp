@@ -1,8 +1,7 @@
 #include "linux/rfhost/windows/day_painter.h"
 
 #include "linux/qt_text.h"
-
-#include <QTextOption>
+#include "linux/rfhost/windows/fitted_lines.h"
 
 namespace rf::native {
 
@@ -106,25 +105,38 @@ void paintHeader(QPainter& painter, const DayPicture& picture)
     painter.drawLine(0, geometry.top() - 1, geometry.width, geometry.top() - 1);
 }
 
-/// What stands on a booking, on one line or on several.
-QString textOf(const CalendarEntry& entry, bool hasLines)
+QString subjectOf(const CalendarEntry& entry)
 {
-    QString text = entry.subject.empty() ? QStringLiteral("(no subject)") : qtText(entry.subject);
-    if (entry.isRecurring())
-        text += QStringLiteral(" ↻");
-    if (hasLines)
-        text += QLatin1Char{'\n'} + timeText(entry.start) + QStringLiteral(" – ") + timeText(entry.end);
-    if (!entry.location.empty())
-        text += (hasLines ? QStringLiteral("\n") : QStringLiteral(" · ")) + qtText(entry.location);
-    return text;
+    const QString subject = entry.subject.empty() ? QStringLiteral("(no subject)") : qtText(entry.subject);
+    return entry.isRecurring() ? subject + QStringLiteral(" ↻") : subject;
 }
 
-/// Between words, and within one that is wider than its booking.
-QTextOption wrapped()
+/// The times in a width: half a time would tell less than none.
+QString timesIn(const CalendarEntry& entry, const QFontMetrics& metrics, int width)
 {
-    QTextOption option{Qt::AlignTop | Qt::AlignLeft};
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    return option;
+    const QString start = timeText(entry.start);
+    for (const QString& times : {start + QStringLiteral(" – ") + timeText(entry.end), start})
+        if (metrics.horizontalAdvance(times) <= width)
+            return times;
+    return {};
+}
+
+/// What stands on a booking of one line.
+QString lineOf(const CalendarEntry& entry)
+{
+    return entry.location.empty() ? subjectOf(entry)
+                                  : subjectOf(entry) + QStringLiteral(" · ") + qtText(entry.location);
+}
+
+void paintLines(QPainter& painter, QRect box, const CalendarEntry& entry)
+{
+    QStringList parts{subjectOf(entry), timesIn(entry, painter.fontMetrics(), box.width()), qtText(entry.location)};
+    parts.removeAll(QString{});
+    const int height = painter.fontMetrics().lineSpacing();
+    for (const QString& line : fittedLines(parts.join(u'\n'), painter.font(), box.size())) {
+        painter.drawText(box, Qt::AlignLeft | Qt::AlignTop, line);
+        box.setTop(box.top() + height);
+    }
 }
 
 /// Of one arrangement what lies in the columns, or above them.
@@ -156,10 +168,10 @@ void paintBooking(QPainter& painter, const CalendarColors& colors, const Calenda
     const bool isTall = inside.height() >= painter.fontMetrics().height() * 2;
     painter.setClipRect(box.rect);
     if (isTall && box.hasTime)
-        painter.drawText(QRectF{inside}, textOf(entry, true), wrapped());
+        paintLines(painter, inside, entry);
     else
-        painter.drawText(inside, Qt::AlignVCenter,
-            painter.fontMetrics().elidedText(textOf(entry, false), Qt::ElideRight, inside.width()));
+        painter.drawText(
+            inside, Qt::AlignVCenter, painter.fontMetrics().elidedText(lineOf(entry), Qt::ElideRight, inside.width()));
     painter.restore();
 }
 

@@ -16,6 +16,16 @@ namespace rf::native {
 
 using host::ItemId;
 
+namespace {
+
+/// Empty for what its host knows no time of.
+QString momentText(Date moment)
+{
+    return moment == noDate ? QString{} : shortDayText(moment) + QLatin1Char{' '} + timeText(moment);
+}
+
+} // namespace
+
 ItemListPane::ItemListPane(std::shared_ptr<host::Model> model)
     : model_(std::move(model))
     , title_(new QLabel)
@@ -25,6 +35,7 @@ ItemListPane::ItemListPane(std::shared_ptr<host::Model> model)
     list_->setAccessibleName(QStringLiteral("Items"));
     list_->setRootIsDecorated(false);
     list_->setUniformRowHeights(true);
+    list_->setAllColumnsShowFocus(true);
     RoomyRows::giveTo(*list_);
     list_->setHeaderLabels({QStringLiteral("Subject"), QStringLiteral("To"), QStringLiteral("Changed")});
     auto* const layout = new QVBoxLayout{this};
@@ -43,13 +54,12 @@ void ItemListPane::show(const host::FolderRecord& folder)
         const auto record = model_->store().read(id);
         if (!record)
             continue;
-        auto* const item = new QTreeWidgetItem{list_,
-            {qtText(record->subject), qtText(record->to),
-                shortDayText(record->lastModificationTime) + QLatin1Char{' '}
-                    + timeText(record->lastModificationTime)}};
+        auto* const item = new QTreeWidgetItem{
+            list_, {qtText(record->subject), qtText(record->to), momentText(record->lastModificationTime)}};
         item->setData(0, Qt::UserRole, static_cast<qlonglong>(id));
     }
-    list_->resizeColumnToContents(0);
+    for (int column = 0; column + 1 < list_->columnCount(); ++column)
+        list_->resizeColumnToContents(column);
 }
 
 void ItemListPane::open()

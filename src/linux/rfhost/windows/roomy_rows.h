@@ -5,7 +5,7 @@
 
 namespace rf::native {
 
-/// Rows of a list with room above and below their text.
+/// Rows of a list with room around their text.
 class RoomyRows final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -16,7 +16,9 @@ public:
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         constexpr int share = 2;
-        return QStyledItemDelegate::sizeHint(option, index).grownBy({0, 0, 0, option.fontMetrics.height() / share});
+        const QFontMetrics& metrics = option.fontMetrics;
+        return QStyledItemDelegate::sizeHint(option, index)
+            .grownBy({0, 0, metrics.averageCharWidth(), metrics.height() / share});
     }
 };
 

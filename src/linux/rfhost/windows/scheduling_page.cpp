@@ -50,6 +50,7 @@ SchedulingPage::SchedulingPage(std::shared_ptr<host::Item> item)
     list_->setObjectName(QStringLiteral("scheduling"));
     list_->setAccessibleName(QStringLiteral("Bookings of the same days"));
     list_->setRootIsDecorated(false);
+    list_->setAllColumnsShowFocus(true);
     RoomyRows::giveTo(*list_);
     list_->setHeaderLabels({QStringLiteral("Day"), QStringLiteral("Time"), QStringLiteral("Subject")});
     auto* const layout = new QVBoxLayout{this};
