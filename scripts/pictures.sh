@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Writes the pictures of the guides anew, in docs/pictures: the windows of the host and of the program at each step of a
-# booking, drawn off screen, in light and in dark.
+# Writes the pictures of the guides anew, in docs/pictures: the windows of the host and of the program, drawn off screen, in
+# light and in dark.
 #
 #   scripts/pictures.sh [FOLDER]   FOLDER: write them there, and those of every form in four languages too
 set -euo pipefail
@@ -8,7 +8,7 @@ caller=$PWD
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 
-steps='BookingByHand.IsMade*:BookingByHand.IsRefused*:BookingByHand.IsPutBack*:FirstRoom.IsAdded*'
+steps='BookingByHand.IsMade*:BookingByHand.IsRefused*:FirstRoom.IsAdded*:EveryWindow.*'
 folder=$PWD/docs/pictures
 if [ $# -gt 0 ]; then
     folder=$(cd "$caller" && realpath -m -- "$1")

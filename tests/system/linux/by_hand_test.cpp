@@ -53,8 +53,7 @@ protected:
     {
         ASSERT_TRUE(atHost.sees("alert"));
         EXPECT_EQ(atHost.textOf("alert").toStdString(), message.toStdString());
-        if (message == doubleBooking)
-            picture(atHost, "alert", "refusal");
+        picture(atHost, "alert", message == doubleBooking ? "refusal" : "mandatory-values");
         atHost.click("alert", button);
         ASSERT_TRUE(atHost.misses("alert"));
     }
@@ -124,10 +123,10 @@ TEST_F(BookingByHand, IsMadeWithItsOrderAndBothCopies)
     atProgram.clickAt({}, "optPlaceSetting3", onTheCircle);
     atProgram.write({}, "txtOrderComment", "Coffee at ten");
     atProgram.click({}, "cmdOK");
-    picture(atProgram, {}, "orders-form");
     // The order costs something, and nobody is to pay for it yet.
     answer("All mandatory values are not filled out!", "OK");
     atProgram.write({}, "txtCC1", "4711");
+    picture(atProgram, {}, "orders-form");
     atProgram.click({}, "cmdOK");
     ASSERT_TRUE(atProgram.misses({}, "cmdOK"));
     atHost.click("inspector", "Save and Close");
@@ -174,8 +173,7 @@ TEST_F(BookingByHand, IsPutBackFromATakenSlotAndItsCopiesFollowItToAFreeOne)
     atHost.drag("explorer", "hours", placeOf(9.25), placeOf(14.25));
     EXPECT_TRUE(isWithCopiesAt(u"Board meeting", 14));
     EXPECT_TRUE(isAt(room1, u"Review", 11));
-    ASSERT_TRUE(showsAt(14, "Board meeting"));
-    picture(atHost, "explorer", "home-page");
+    EXPECT_TRUE(showsAt(14, "Board meeting"));
 }
 
 TEST_F(BookingByHand, TicksDecideWhatIsWatched)
@@ -211,6 +209,18 @@ TEST_F(BookingByHand, EndsWithAnotherFolderAndBeginsAgainWithTheRoot)
     EXPECT_EQ(host->waitForEnd(5s), 0);
 }
 
+TEST_F(BookingByHand, GoesWithAHostThatIsKilledWhileTheOrdersFormIsOpen)
+{
+    openRoom();
+    beginBooking("Board meeting", 9);
+    pressBookingInfo();
+    ASSERT_TRUE(atProgram.sees({}, "cmdOK"));
+    order(1, "3");
+    host->end();
+    EXPECT_TRUE(within(5s, [&] { return programs().empty(); }));
+    EXPECT_FALSE(itemIn(room1, u"Board meeting"));
+}
+
 /// An installation in which nobody has added a room yet.
 using FirstRoom = ByHand;
 
@@ -218,6 +228,7 @@ TEST_F(FirstRoom, IsAddedInTheDialogAndStandsOnTheHomePage)
 {
     serveWithWindows();
     ASSERT_TRUE(atProgram.sees("Roomfold for Outlook Booking Info"));
+    picture(atProgram, "Roomfold for Outlook Booking Info", "no-room");
     atProgram.click("Roomfold for Outlook Booking Info", "Yes");
     ASSERT_TRUE(atProgram.sees({}, "txtResourceName"));
     atProgram.write({}, "txtResourceName", "Room 1");
