@@ -4,27 +4,10 @@
 #include "orders/supply_list.h"
 #include "orders/text_table.h"
 
-#include <cstdint>
-#include <cstdlib>
+#include "fuzz_input.h"
 
-namespace rf {
+namespace rf::fuzz {
 namespace {
-
-Text unitsOf(const std::uint8_t* bytes, std::size_t size)
-{
-    Text text;
-    for (std::size_t index = 0; index + 1 < size; index += 2) {
-        text += static_cast<char16_t>(bytes[index] | bytes[index + 1] << 8);
-    }
-    return text;
-}
-
-void require(bool condition)
-{
-    if (!condition) {
-        std::abort();
-    }
-}
 
 /// The text that a table was read from, as far as the table holds it.
 Text written(const TextTable& table)
@@ -81,14 +64,14 @@ void checkSelection(const Text& text)
 }
 
 } // namespace
-} // namespace rf
+} // namespace rf::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     static const rf::PatternRegional regional{rf::germanSettings()};
-    const rf::Text text = rf::unitsOf(bytes, size);
-    rf::checkOrders(text, regional);
-    rf::checkSupplies(text, regional);
-    rf::checkSelection(text);
+    const rf::Text text = rf::fuzz::unitsOf(bytes, size);
+    rf::fuzz::checkOrders(text, regional);
+    rf::fuzz::checkSupplies(text, regional);
+    rf::fuzz::checkSelection(text);
     return 0;
 }

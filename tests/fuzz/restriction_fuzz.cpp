@@ -2,8 +2,9 @@
 #include "host/host_error.h"
 #include "host/restriction_plan.h"
 
+#include "fuzz_input.h"
+
 #include <algorithm>
-#include <cstdlib>
 
 namespace rf::host {
 namespace {
@@ -48,15 +49,6 @@ void check(const Restriction& restriction)
     }
 }
 
-Text unitsOf(const std::uint8_t* bytes, std::size_t size)
-{
-    Text text;
-    for (std::size_t index = 0; index + 1 < size; index += 2) {
-        text += static_cast<char16_t>(bytes[index] | bytes[index + 1] << 8);
-    }
-    return text;
-}
-
 } // namespace
 } // namespace rf::host
 
@@ -65,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     using namespace rf::host;
     static const rf::PatternRegional regional{rf::germanSettings()};
     try {
-        check(Restriction::parse(unitsOf(bytes, size), folderFields(), regional));
+        check(Restriction::parse(rf::fuzz::unitsOf(bytes, size), folderFields(), regional));
     } catch (const rf::automation::Error& error) {
         if (error.number() != host_error::badArgument) {
             std::abort();
