@@ -245,6 +245,14 @@ TEST_F(CallsOfTheRules, OfAnItemThatDidNotMoveAreNoMoreThanItNeeds)
 /// The same calls, each with the item deleted by somebody else just before it.
 class RulesUnderDeletion : public RulesUnderFaults {
 protected:
+    /// The copies of the person's own calendar, in place of a booking.
+    void deletesCopiesAtUse()
+    {
+        interruption = [this] {
+            for (const auto& copy : stored(own))
+                store->remove(copy.id);
+        };
+    }
     void deletesAtUse(const Text& subject)
     {
         interruption = [this, subject] {
@@ -285,6 +293,21 @@ TEST_F(RulesUnderDeletion, BringNoDeletedBookingBack)
         run([&] { watcher.ouisItems_ItemChange(faulty(item)); });
         EXPECT_FALSE(reported);
         EXPECT_EQ(stored(room).size(), use == 0 ? 1U : 0U);
+    });
+}
+
+TEST_F(RulesUnderDeletion, MakeACopyThatIsThrownAwayMeanwhileOnceTheNextTime)
+{
+    deletesCopiesAtUse();
+    everyUse([&](int) {
+        const auto item = booked(u"Board", at(9), 60);
+        subFixAppCopy(*session, item, u"link", u"Room 1", folder(own), true);
+        run([&] { subFixAppCopy(*session, faulty(item), u"link", u"Room 1", faulty(folder(own)), true); });
+        // What cannot be saved any more is reported; what was thrown away before it was found is made anew.
+        EXPECT_EQ(stored(own).size(), reported ? 0U : 1U);
+        EXPECT_EQ(stored(room).size(), 1U);
+        subFixAppCopy(*session, item, u"link", u"Room 1", folder(own), true);
+        EXPECT_EQ(only(own).subject, u"Board");
     });
 }
 

@@ -157,6 +157,17 @@ TEST_F(Projects, LoadTensOfThousandsOfLines)
     EXPECT_EQ(projects.ToString(), text);
 }
 
+TEST_F(Projects, LoadWhatStandsAmongAMillionEmptyLines)
+{
+    constexpr std::size_t lines = 1'000'000;
+    Text text = u"Sales;255";
+    text.reserve(2 * lines + 32);
+    for (std::size_t line = 0; line < lines; ++line)
+        text += lineBreak;
+    projects.FromString(text + u"Marketing;128");
+    EXPECT_EQ(projects.ToString(), u"Sales;255\r\nMarketing;128\r\n");
+}
+
 TEST_F(ProjectsInGerman, ReadTheirColoursAsTheUserWritesNumbers)
 {
     projects.FromString(u"Sales;33.023\r\nMarketing;255,0\r\n");

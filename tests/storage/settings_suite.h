@@ -80,6 +80,20 @@ TEST_P(SettingsPost, WithoutAnyPropertyLoadsTheDefaults)
     EXPECT_EQ(settings().objOUMasterFolder.EntryID, u"");
 }
 
+TEST_P(SettingsPost, WithoutBlnManageLoadsTrueAndWithoutBlnNoDoublesFalse)
+{
+    givePost({truth(u"blnOverview", false), truth(u"blnNoRecurring", true), truth(u"blnShortCut", false)});
+    settings().GetSettings(true);
+    EXPECT_TRUE(settings().ShowManage);
+    EXPECT_FALSE(settings().NoDoubles);
+    EXPECT_FALSE(settings().ShowOverview);
+    EXPECT_FALSE(settings().ShowShortCut);
+    EXPECT_TRUE(settings().NoRecurring);
+    settings().SaveSettings();
+    EXPECT_EQ(stored(u"blnManage"), automation::Variant{true});
+    EXPECT_EQ(stored(u"blnNoDoubles"), automation::Variant{false});
+}
+
 TEST_P(SettingsPost, GivesBackEveryTruthAndEveryText)
 {
     settings().GetSettings(true);

@@ -102,6 +102,16 @@ TEST_F(SimpleList, LoadsTensOfThousandsOfLines)
     EXPECT_EQ(list.count(), lines);
 }
 
+TEST_F(SimpleList, LoadsWhatStandsAmongAMillionEmptyLines)
+{
+    constexpr std::size_t lines = 1'000'000;
+    Text text = u"a";
+    text.reserve(2 * lines + 2);
+    for (std::size_t line = 0; line < lines; ++line)
+        text += lineBreak;
+    EXPECT_EQ(loaded(text + u"b"), (Texts{u"a", u"b"}));
+}
+
 TEST_F(SimpleList, FillsAControlWithWhatIsNotBlank)
 {
     list.FromString(u"Theatre\r\n  \r\nU shape");
