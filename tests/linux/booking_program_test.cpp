@@ -47,7 +47,7 @@ struct BookingProgram : HostProgram {
         serve(options);
         classes = std::make_unique<LinuxClassRegistry>();
         ASSERT_TRUE(dbus::runUntil([&] {
-            return dbus::errorNumberOf([&] {
+            return dbus::errorOf([&] {
                 return application = outlook::Application{classes->running(outlook::applicationClass)};
             }) == 0;
         }));
@@ -97,7 +97,7 @@ struct BookingProgram : HostProgram {
     }
     [[nodiscard]] static bool hasBar(const outlook::Inspector& window)
     {
-        return dbus::errorNumberOf([&] { return barOf(window); }) == 0;
+        return dbus::errorOf([&] { return barOf(window); }) == 0;
     }
     [[nodiscard]] static Text organizerOf(const outlook::Item& item)
     {
@@ -141,7 +141,7 @@ TEST_F(BookingProgram, DeletesADoubleBookingThatThePersonCancels)
     second.save();
     EXPECT_EQ(room().items().count(), before);
     EXPECT_EQ(application.inspectors().count(), windows - 1);
-    EXPECT_NE(dbus::errorNumberOf([&] { return second.subject(); }), 0) << "the item is still there";
+    EXPECT_NE(dbus::errorOf([&] { return second.subject(); }), 0) << "the item is still there";
     EXPECT_FALSE(statusOfProgram());
 }
 

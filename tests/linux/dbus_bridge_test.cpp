@@ -98,16 +98,16 @@ TEST_F(DbusBridge, CarriesTheWholeErrorAndTheCallersPlace)
 
 TEST_F(DbusBridge, ReportsEachFailureUnderItsNumber)
 {
-    EXPECT_EQ(errorNumberOf([&] { return boiler.get(u"Pressure"); }), 438);
-    EXPECT_EQ(errorNumberOf([&] { return boiler.call(u"Minus", u"x", 1); }), 13);
-    EXPECT_EQ(errorNumberOf([&] { return boiler.call(u"Explode"); }), 51);
-    EXPECT_EQ(errorNumberOf([&] { return boiler.call(u"Fail", -2147221233); }), -2147221233);
+    EXPECT_EQ(errorOf([&] { return boiler.get(u"Pressure"); }), 438);
+    EXPECT_EQ(errorOf([&] { return boiler.call(u"Minus", u"x", 1); }), 13);
+    EXPECT_EQ(errorOf([&] { return boiler.call(u"Explode"); }), 51);
+    EXPECT_EQ(errorOf([&] { return boiler.call(u"Fail", -2147221233); }), -2147221233);
 }
 
 TEST_F(DbusBridge, KnowsNoMemberWithANulInItsName)
 {
     const TextView cut{u"Temperature\0x", 13};
-    EXPECT_EQ(errorNumberOf([&] { return boiler.dispatch()->invoke(cut, automation::Invocation::Get, {}); }), 438);
+    EXPECT_EQ(errorOf([&] { return boiler.dispatch()->invoke(cut, automation::Invocation::Get, {}); }), 438);
 }
 
 TEST_F(DbusBridge, KnowsAnObjectByItsIdentity)
@@ -140,7 +140,7 @@ TEST_F(DbusBridge, GivesAnObjectBackAsTheOneItWas)
 
 TEST_F(DbusBridge, LetsGoOfWhatNobodyHolds)
 {
-    Variant parts = boiler.call(u"Parts", 500);
+    Variant parts = boiler.call(u"Boilers", 500);
     EXPECT_EQ(host->exportedCount(), 501U);
     parts = {};
     EXPECT_TRUE(runUntil([&] { return host->exportedCount() == 1; }));
@@ -152,13 +152,13 @@ TEST_F(DbusBridge, ReleasesDuringABusyTime)
 {
     // Without an idle moment, as in a long loop of calls.
     for (int round = 0; round < 500; ++round)
-        static_cast<void>(boiler.call(u"Parts", 1));
+        static_cast<void>(boiler.call(u"Boilers", 1));
     EXPECT_LT(host->exportedCount(), 200U);
 }
 
 TEST_F(DbusBridge, HoldsAHundredThousandObjects)
 {
-    Variant parts = boiler.call(u"Parts", 100'000);
+    Variant parts = boiler.call(u"Boilers", 100'000);
     EXPECT_EQ(host->exportedCount(), 100'001U);
     EXPECT_EQ(Object{parts.array()->values.back().dispatch()}.get(u"Temperature"), Variant{20});
     parts = {};
@@ -191,8 +191,8 @@ TEST_F(DbusBridge, RefusesWhatABusCannotCarry)
     for (int level = 0; level < 8; ++level)
         nested = Array::list({nested});
     EXPECT_EQ(boiler.call(u"Echo", nested), nested);
-    EXPECT_EQ(errorNumberOf([&] { return boiler.call(u"Echo", Array::list({nested})); }), 13);
-    EXPECT_EQ(errorNumberOf([&] { return boiler.call(u"Echo", Text(40U << 20U, u'x')); }), 7);
+    EXPECT_EQ(errorOf([&] { return boiler.call(u"Echo", Array::list({nested})); }), 13);
+    EXPECT_EQ(errorOf([&] { return boiler.call(u"Echo", Text(40U << 20U, u'x')); }), 7);
 }
 
 TEST_F(DbusBridge, CarriesTheLargestTextAndGoesOn)
@@ -205,7 +205,7 @@ TEST_F(DbusBridge, CarriesTheLargestTextAndGoesOn)
 TEST_F(DbusBridge, TakesBackTheObjectsOfAMessageThatIsNotSent)
 {
     const auto mine = std::make_shared<Boiler>();
-    EXPECT_EQ(errorNumberOf([&] { return boiler.call(u"CountArguments", mine, Text(40U << 20U, u'x')); }), 7);
+    EXPECT_EQ(errorOf([&] { return boiler.call(u"CountArguments", mine, Text(40U << 20U, u'x')); }), 7);
     EXPECT_EQ(client->exportedCount(), 0U);
 }
 
@@ -279,8 +279,8 @@ TEST_F(DbusBridge, KeepsTheSourceOfAConnection)
 
 TEST_F(DbusBridge, RefusesSetsOfEventsThatAnObjectDoesNotHave)
 {
-    EXPECT_EQ(errorNumberOf([&] { return boiler.advise(unknownEvents, {}); }), 459);
-    EXPECT_EQ(errorNumberOf([&] { return boiler.advise(unraisedEvents, {}); }), 459);
+    EXPECT_EQ(errorOf([&] { return boiler.advise(unknownEvents, {}); }), 459);
+    EXPECT_EQ(errorOf([&] { return boiler.advise(unraisedEvents, {}); }), 459);
 }
 
 TEST_F(DbusBridge, NestsEventsInCallsTwentyDeep)
@@ -295,9 +295,9 @@ TEST_F(DbusBridge, EndsAnEndlessRecursionWithAnError)
 {
     std::int32_t deepest = 0;
     const Connection connection = boiler.advise(boilerEvents, [&](TextView, std::span<Variant> arguments) {
-        deepest = std::max(deepest, errorNumberOf([&] { return boiler.call(u"Dive", arguments[0]); }));
+        deepest = std::max(deepest, errorOf([&] { return boiler.call(u"Dive", arguments[0]); }));
     });
-    EXPECT_EQ(errorNumberOf([&] { return boiler.call(u"Dive", 1); }), 0);
+    EXPECT_EQ(errorOf([&] { return boiler.call(u"Dive", 1); }), 0);
     EXPECT_EQ(deepest, 28);
 }
 
@@ -328,14 +328,14 @@ TEST_F(DbusBridge, OffersAClassOnce)
     EXPECT_FALSE(second.exportClass(u"Boiler", [] { return nullptr; }));
     server.reset();
     EXPECT_TRUE(second.exportClass(boilerClass, [] { return nullptr; }));
-    EXPECT_EQ(errorNumberOf([&] { return boiler.get(u"Temperature"); }), 462);
+    EXPECT_EQ(errorOf([&] { return boiler.get(u"Temperature"); }), 462);
 }
 
 TEST_F(DbusBridge, LosesAllWhenTheBusGoesDown)
 {
     const Connection connection = boiler.advise(boilerEvents, [](TextView, std::span<Variant>) {});
     bus.end();
-    EXPECT_EQ(errorNumberOf([&] { return boiler.get(u"Temperature"); }), 462);
+    EXPECT_EQ(errorOf([&] { return boiler.get(u"Temperature"); }), 462);
     EXPECT_TRUE(own->heat(50));
 }
 

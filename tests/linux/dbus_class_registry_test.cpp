@@ -48,9 +48,9 @@ TEST_F(DbusClassRegistry, CannotCreateWhatNobodyOffers)
         []() -> std::shared_ptr<automation::Dispatch> { throw RuntimeError{error_number::overflow}; }));
     for (const TextView name : {u"Test.Boiler", u"{0006F03A-0000-0000-C000-000000000046}", u"Excel", u"",
              u"org.freedesktop.DBus", u"Test.Nothing", u"Test.Failing"}) {
-        EXPECT_EQ(errorNumberOf([&] { return registry.running(name); }), 429) << toUtf8(name);
-        EXPECT_EQ(errorNumberOf([&] { return registry.create(name); }), 429) << toUtf8(name);
-        EXPECT_EQ(errorNumberOf([&] { return registry.bind(name); }), 429) << toUtf8(name);
+        EXPECT_EQ(errorOf([&] { return registry.running(name); }), 429) << toUtf8(name);
+        EXPECT_EQ(errorOf([&] { return registry.create(name); }), 429) << toUtf8(name);
+        EXPECT_EQ(errorOf([&] { return registry.bind(name); }), 429) << toUtf8(name);
     }
 }
 
@@ -85,8 +85,8 @@ TEST(DbusClassRegistryWithoutABus, SaysSoAtOnce)
         unsetenv("XDG_RUNTIME_DIR");
         LinuxClassRegistry registry;
         const auto start = std::chrono::steady_clock::now();
-        EXPECT_EQ(errorNumberOf([&] { return registry.running(boilerClass); }), 429);
-        EXPECT_EQ(errorNumberOf([&] { return registry.create(boilerClass); }), 429);
+        EXPECT_EQ(errorOf([&] { return registry.running(boilerClass); }), 429);
+        EXPECT_EQ(errorOf([&] { return registry.create(boilerClass); }), 429);
         EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds{1});
     }
     unsetenv("DBUS_SESSION_BUS_ADDRESS");
@@ -95,7 +95,7 @@ TEST(DbusClassRegistryWithoutABus, SaysSoAtOnce)
 TEST(DbusClassRegistryWithoutABus, NeedsAQtApplication)
 {
     LinuxClassRegistry registry;
-    EXPECT_EQ(errorNumberOf([&] { return registry.running(boilerClass); }), 429);
+    EXPECT_EQ(errorOf([&] { return registry.running(boilerClass); }), 429);
 }
 
 /// A folder from which the bus learns how to start a host.
@@ -136,7 +136,7 @@ TEST_F(DbusActivation, StartsTheProcessOfAClassForANewObjectOnly)
 {
     if (!bus.isThere())
         GTEST_SKIP() << "no dbus-daemon; install it with: apt-get install dbus-daemon";
-    EXPECT_EQ(errorNumberOf([&] { return registry.running(boilerClass); }), 429);
+    EXPECT_EQ(errorOf([&] { return registry.running(boilerClass); }), 429);
     const Object boiler = registry.create(u"test.boiler");
     EXPECT_EQ(boiler.get(u"Temperature").integer32(), 20);
     EXPECT_EQ(registry.running(boilerClass), boiler);

@@ -190,8 +190,8 @@ TEST_F(DbusNonsense, TakesAHostThatAnswersNonsenseForUnavailable)
         Parrot parrot{answer};
         ASSERT_TRUE(raw.registerVirtualObject(rootPath(), &parrot, QDBusConnection::SubPath));
         const Object object{client->importObject({raw.baseService(), QDBusObjectPath{objectPath(1)}})};
-        EXPECT_EQ(errorNumberOf([&] { return object.get(u"Temperature"); }), 462);
-        EXPECT_EQ(errorNumberOf([&] { return client->root(raw.baseService(), busName(boilerClass)); }), 462);
+        EXPECT_EQ(errorOf([&] { return object.get(u"Temperature"); }), 462);
+        EXPECT_EQ(errorOf([&] { return client->root(raw.baseService(), busName(boilerClass)); }), 462);
         raw.unregisterObject(rootPath(), QDBusConnection::UnregisterTree);
     }
 }

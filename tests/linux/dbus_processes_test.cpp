@@ -14,7 +14,7 @@ Object waitForBoiler(LinuxClassRegistry& registry)
 {
     Object boiler;
     static_cast<void>(runUntil([&] {
-        if (errorNumberOf([&] { return boiler = registry.running(boilerClass); }) != 0)
+        if (errorOf([&] { return boiler = registry.running(boilerClass); }) != 0)
             std::this_thread::sleep_for(std::chrono::milliseconds{10});
         return static_cast<bool>(boiler);
     }));
@@ -62,7 +62,7 @@ TEST_F(BoilerClient, DISABLED_EndsInItsHandler)
 
 TEST_F(BoilerClient, DISABLED_HoldsMany)
 {
-    const Variant parts = boiler.call(u"Parts", 100'000);
+    const Variant parts = boiler.call(u"Boilers", 100'000);
     serve(*bridge);
 }
 
@@ -164,7 +164,7 @@ TEST_F(DbusClient, SharesTheMembersOfAnObject)
     boiler.put(u"Temperature", 33);
     EXPECT_EQ(boiler.get(u"Temperature").integer32(), 33);
     EXPECT_EQ(boiler, registry.running(boilerClass));
-    EXPECT_EQ(errorNumberOf([&] { return boiler.call(u"Fail", 1004); }), 1004);
+    EXPECT_EQ(errorOf([&] { return boiler.call(u"Fail", 1004); }), 1004);
 }
 
 TEST_F(DbusClient, HearsEventsWithinItsCallAndCancels)
@@ -210,7 +210,7 @@ TEST_F(DbusWithoutGLib, WakesUpForEveryReply)
 TEST_F(DbusClient, FailsQuicklyWhenTheHostEndsWithinACall)
 {
     const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(errorNumberOf([&] { return boiler.call(u"Die"); }), 462);
+    EXPECT_EQ(errorOf([&] { return boiler.call(u"Die"); }), 462);
     EXPECT_LT(Seconds{std::chrono::steady_clock::now() - start}.count(), 2);
 }
 
@@ -219,10 +219,10 @@ TEST_F(DbusClient, SurvivesItsHost)
     Connection connection = boiler.advise(boilerEvents, [](TextView, std::span<Variant>) {});
     host->end();
     const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(errorNumberOf([&] { return boiler.get(u"Temperature"); }), 462);
+    EXPECT_EQ(errorOf([&] { return boiler.get(u"Temperature"); }), 462);
     EXPECT_LT(Seconds{std::chrono::steady_clock::now() - start}.count(), 2);
     EXPECT_NO_THROW(connection.disconnect());
-    EXPECT_EQ(errorNumberOf([&] { return registry.running(boilerClass); }), 429);
+    EXPECT_EQ(errorOf([&] { return registry.running(boilerClass); }), 429);
 }
 
 struct DbusFarewell : DbusClient {

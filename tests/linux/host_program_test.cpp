@@ -65,7 +65,7 @@ TEST_F(HostProgram, TellsWithinASecondOfWhatAnotherProcessSaves)
     LinuxClassRegistry classes;
     outlook::Application application;
     ASSERT_TRUE(dbus::runUntil([&] {
-        return dbus::errorNumberOf([&] {
+        return dbus::errorOf([&] {
             return application = outlook::Application{classes.running(outlook::applicationClass)};
         }) == 0;
     }));
@@ -91,7 +91,7 @@ TEST_F(HostProgram, HasWindowsWhenTheyAreAskedFor)
     LinuxClassRegistry classes;
     outlook::Application application;
     ASSERT_TRUE(dbus::runUntil([&] {
-        return dbus::errorNumberOf([&] {
+        return dbus::errorOf([&] {
             return application = outlook::Application{classes.running(outlook::applicationClass)};
         }) == 0;
     }));

@@ -8,7 +8,7 @@ namespace {
 using automation::Error;
 using automation::Object;
 using automation::Variant;
-using com::errorNumberOf;
+using com::errorOf;
 
 struct Classes : com::ComTest {
     ComClassRegistry registry{bridge};
@@ -56,7 +56,7 @@ TEST_F(Classes, ReachTheFileSystem)
     EXPECT_EQ(files.call(u"GetFileName", u"C:\\a\\b.ics").text(), u"b.ics");
     EXPECT_TRUE(files.call(u"FolderExists", u"C:\\").boolean());
     EXPECT_FALSE(files.call(u"FileExists", u"C:\\no such file").boolean());
-    EXPECT_EQ(errorNumberOf([&] { return files.call(u"GetFile", u"C:\\no such file"); }), 53);
+    EXPECT_EQ(errorOf([&] { return files.call(u"GetFile", u"C:\\no such file"); }), 53);
 }
 
 TEST_F(Classes, ReachTheShell)
@@ -64,7 +64,7 @@ TEST_F(Classes, ReachTheShell)
     const Object shell = registry.create(u"Wscript.Shell");
     const Text windowsKey = u"HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows NT\\CurrentVersion\\";
     EXPECT_FALSE(shell.call(u"RegRead", windowsKey + u"SystemRoot").text().empty());
-    EXPECT_NE(errorNumberOf([&] { return shell.call(u"RegRead", windowsKey + u"No such value"); }), 0);
+    EXPECT_NE(errorOf([&] { return shell.call(u"RegRead", windowsKey + u"No such value"); }), 0);
 }
 
 TEST_F(Classes, BindTheManagementService)
@@ -96,14 +96,14 @@ TEST_F(Classes, PassOnTheErrorOfAnObject)
 {
     const Object dictionary = registry.create(u"Scripting.Dictionary");
     dictionary.call(u"Add", 1, 1);
-    EXPECT_EQ(errorNumberOf([&] { return dictionary.call(u"Add", 1, 2); }), error_number::keyAlreadyExists);
-    EXPECT_EQ(errorNumberOf([&] { return dictionary.call(u"Add", 2); }), error_number::wrongArgumentCount);
+    EXPECT_EQ(errorOf([&] { return dictionary.call(u"Add", 1, 2); }), error_number::keyAlreadyExists);
+    EXPECT_EQ(errorOf([&] { return dictionary.call(u"Add", 2); }), error_number::wrongArgumentCount);
 }
 
 TEST_F(Classes, HaveNoEventsWhereTheObjectHasNone)
 {
     const Object dictionary = registry.create(u"Scripting.Dictionary");
-    EXPECT_EQ(errorNumberOf([&] { return dictionary.advise(com::boilerEvents, {}); }), 459);
+    EXPECT_EQ(errorOf([&] { return dictionary.advise(com::boilerEvents, {}); }), 459);
 }
 
 TEST_F(Classes, GiveTheClassicErrorWhereThereIsNoObject)
@@ -118,12 +118,12 @@ TEST_F(Classes, GiveTheClassicErrorWhereThereIsNoObject)
         EXPECT_EQ(error.source(), u"No.SuchClass");
         EXPECT_EQ(error.where().line(), line);
     }
-    EXPECT_EQ(errorNumberOf([&] { return registry.create(u"{12345678-1234-1234-1234-123456789ABC}"); }), 429);
-    EXPECT_EQ(errorNumberOf([&] { return registry.create(u"{no class id"); }), 429);
-    EXPECT_EQ(errorNumberOf([&] { return registry.create(u""); }), 429);
-    EXPECT_EQ(errorNumberOf([&] { return registry.running(u"No.SuchClass"); }), 429);
-    EXPECT_EQ(errorNumberOf([&] { return registry.running(u"Scripting.Dictionary"); }), 429);
-    EXPECT_EQ(errorNumberOf([&] { return registry.bind(u"nosuchmoniker:"); }), 429);
+    EXPECT_EQ(errorOf([&] { return registry.create(u"{12345678-1234-1234-1234-123456789ABC}"); }), 429);
+    EXPECT_EQ(errorOf([&] { return registry.create(u"{no class id"); }), 429);
+    EXPECT_EQ(errorOf([&] { return registry.create(u""); }), 429);
+    EXPECT_EQ(errorOf([&] { return registry.running(u"No.SuchClass"); }), 429);
+    EXPECT_EQ(errorOf([&] { return registry.running(u"Scripting.Dictionary"); }), 429);
+    EXPECT_EQ(errorOf([&] { return registry.bind(u"nosuchmoniker:"); }), 429);
 }
 
 TEST_F(Classes, FindARunningObject)
@@ -134,7 +134,7 @@ TEST_F(Classes, FindARunningObject)
     ASSERT_EQ(RegisterActiveObject(bridge->exportObject(boiler).get(), id, ACTIVEOBJECT_STRONG, &entry), S_OK);
     EXPECT_EQ(registry.running(u"{12345678-1234-1234-1234-123456789ABD}").dispatch(), boiler);
     EXPECT_EQ(RevokeActiveObject(entry, nullptr), S_OK);
-    EXPECT_EQ(errorNumberOf([&] { return registry.running(u"{12345678-1234-1234-1234-123456789ABD}"); }), 429);
+    EXPECT_EQ(errorOf([&] { return registry.running(u"{12345678-1234-1234-1234-123456789ABD}"); }), 429);
 }
 
 } // namespace

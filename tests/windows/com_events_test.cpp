@@ -101,8 +101,8 @@ TEST_F(ComEvents, GoOnWhenAHandlerFails)
 
 TEST_F(ComEvents, AreRefusedForASetThatTheObjectDoesNotHave)
 {
-    EXPECT_EQ(errorNumberOf([&] { return imported.advise(unknownEvents, {}); }), 459);
-    EXPECT_EQ(errorNumberOf([&] { return imported.advise(unraisedEvents, {}); }), 459);
+    EXPECT_EQ(errorOf([&] { return imported.advise(unknownEvents, {}); }), 459);
+    EXPECT_EQ(errorOf([&] { return imported.advise(unraisedEvents, {}); }), 459);
 }
 
 struct SinkOfEvents : ComTest {

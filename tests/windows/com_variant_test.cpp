@@ -199,7 +199,7 @@ TEST_F(ComVariant, CarriesArraysWithoutValuesAndWithoutASize)
 
 TEST_F(ComVariant, RefusesAnArrayWhoseBoundsDoNotFitItsValues)
 {
-    EXPECT_EQ(errorNumberOf([&] { return toNative(Array{{{0, 2}}, {1}}, *bridge); }), 9);
+    EXPECT_EQ(errorOf([&] { return toNative(Array{{{0, 2}}, {1}}, *bridge); }), 9);
 }
 
 TEST_F(ComVariant, RefusesARecord)
@@ -207,7 +207,7 @@ TEST_F(ComVariant, RefusesARecord)
     VARIANT record;
     VariantInit(&record);
     record.vt = VT_RECORD;
-    EXPECT_EQ(errorNumberOf([&] { return fromNative(record, *bridge); }), 458);
+    EXPECT_EQ(errorOf([&] { return fromNative(record, *bridge); }), 458);
 }
 
 TEST_F(ComVariant, AssignsThroughAReferenceInTheKindThatItHasThere)
@@ -241,12 +241,12 @@ TEST_F(ComVariant, AssignsThroughAReferenceInTheKindThatItHasThere)
 TEST_F(ComVariant, RefusesToAssignWhatDoesNotConvert)
 {
     std::int16_t small = 3;
-    EXPECT_EQ(errorNumberOf([&] {
+    EXPECT_EQ(errorOf([&] {
         assignNative(referenceTo(VT_I2, &small), u"three", *bridge);
         return 0;
     }),
         13);
-    EXPECT_EQ(errorNumberOf([&] {
+    EXPECT_EQ(errorOf([&] {
         assignNative(referenceTo(VT_I2, &small), 40000, *bridge);
         return 0;
     }),
