@@ -54,12 +54,14 @@ protected:
             {u"Tasting", 4, 12, 1, u"Summer party"}, {u"Stand-up", 4, 9, 0.5, u"New building"},
             {u"Rehearsal", 5, 10, 4, u"Summer party"}, {u"Open day", 6, 11, 4, u"Summer party"},
             {u"Auditors", 8, 9, 7, u"Annual report"}, {u"Closing", -4, 15, 2, u"Annual report"}};
-        for (const auto& [subject, day, hour, hours, project] : entries) {
-            const auto minutes
-                = [&](double at) { return static_cast<long long>((day * hoursADay + at) * minutesAnHour); };
-            auto item = host::test::appointment(
-                room, subject, monday().plusMinutes(minutes(hour)), monday().plusMinutes(minutes(hour + hours)));
-            item.categories = project;
+        for (const Entry& entry : entries) {
+            const auto moment = [&](double hour) {
+                return monday().plusMinutes(
+                    static_cast<long long>((entry.day * hoursADay + hour) * static_cast<double>(minutesAnHour)));
+            };
+            auto item
+                = host::test::appointment(room, entry.subject, moment(entry.hour), moment(entry.hour + entry.hours));
+            item.categories = entry.project;
             made.save(item);
         }
         auto fair = host::test::appointment(room, u"Trade fair", monday().plusMinutes(hoursADay * minutesAnHour),
