@@ -233,5 +233,26 @@ TEST_F(EveryWindow, OfABookingWithoutSuppliesShowsItsCaptionsWhole)
     show(atProgram, {}, "orders-form-no-supplies");
 }
 
+/// Somebody removes the calendar while an order for it is made.
+TEST_F(EveryWindow, OfAnErrorReportShowsItsCaptionsWhole)
+{
+    makeRooms({u"Room 1"});
+    giveSettings();
+    serveWithWindows();
+    ASSERT_TRUE(atHost.sees("explorer", "hours"));
+    openNewAppointment();
+    pressBookingInfo();
+    ASSERT_TRUE(atProgram.sees({}, "cmdOK"));
+    {
+        host::SqliteStore elsewhere{folder.file("store.db")};
+        elsewhere.removeFolder(host::folderAt(elsewhere, room1)->id);
+    }
+    atProgram.click({}, "cmdOK");
+    ASSERT_TRUE(atProgram.sees({}, "Yes"));
+    show(atProgram, {}, "error-report");
+    atProgram.click({}, "No");
+    EXPECT_TRUE(within(5s, [&] { return programs().empty(); }));
+}
+
 } // namespace
 } // namespace rf::test
