@@ -59,9 +59,9 @@ private:
     /// A folder that goes with this object.
     class Folder {
     public:
-        Folder()
+        explicit Folder(const std::filesystem::path& parent)
         {
-            std::string name = (std::filesystem::temp_directory_path() / "rf-office-XXXXXX").string();
+            std::string name = (parent / "rf-office-XXXXXX").string();
             require(mkdtemp(name.data()) != nullptr, "no temporary folder");
             path_ = name;
         }
@@ -107,7 +107,9 @@ private:
         return condition();
     }
 
-    Folder folder_;
+    Folder folder_{std::filesystem::temp_directory_path()};
+    /// The name of a socket may not be long, wherever temporary files are.
+    Folder sockets_{"/tmp"};
     EnvironmentVariable temporary_{"TMPDIR", folder_.path()};
     EnvironmentVariable runtime_{"XDG_RUNTIME_DIR", folder_.path()};
     EnvironmentVariable store_{"RFHOST_STORE", file("store.db")};
@@ -116,18 +118,18 @@ private:
     EnvironmentVariable plugin_{"QT_QPA_GENERIC_PLUGINS", "rfhands"};
     // A platform without a screen warns of what it cannot do.
     EnvironmentVariable quiet_{"QT_LOGGING_RULES", "default.warning=false"};
-    EnvironmentVariable hands_{"RF_HANDS", folder_.path()};
+    EnvironmentVariable hands_{"RF_HANDS", sockets_.path()};
     EnvironmentVariable regional_{"LC_ALL", "en_GB.UTF-8"};
     Nowhere nowhere_;
     native::dbus::PrivateBus bus_;
     std::optional<native::dbus::Child> host_;
 
 public:
-    HandsOn atHost{folder_.path(), "rfhost"};
-    HandsOn atProgram{folder_.path(), "RFBookingInfo"};
+    HandsOn atHost{sockets_.path(), "rfhost"};
+    HandsOn atProgram{sockets_.path(), "RFBookingInfo"};
     /// Those who wait for what the others bring about.
-    HandsOn eyesOnHost{folder_.path(), "rfhost"};
-    HandsOn eyesOnProgram{folder_.path(), "RFBookingInfo"};
+    HandsOn eyesOnHost{sockets_.path(), "rfhost"};
+    HandsOn eyesOnProgram{sockets_.path(), "RFBookingInfo"};
 };
 
 } // namespace rf::test
