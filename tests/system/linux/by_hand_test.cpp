@@ -240,6 +240,23 @@ TEST_F(FirstRoom, IsAddedInTheDialogAndStandsOnTheHomePage)
     openNewAppointment();
 }
 
+TEST_F(FirstRoom, IsAskedForNoLongerWhenTheHostQuits)
+{
+    serveWithWindows();
+    ASSERT_TRUE(atProgram.sees("Roomfold for Outlook Booking Info"));
+    host->terminate();
+    EXPECT_EQ(host->waitForEnd(5s), 0);
+    EXPECT_TRUE(within(5s, [&] { return programs().empty(); }));
+}
+
+TEST_F(FirstRoom, IsAskedForNoLongerWhenTheHostIsKilled)
+{
+    serveWithWindows();
+    ASSERT_TRUE(atProgram.sees("Roomfold for Outlook Booking Info"));
+    host->end();
+    EXPECT_TRUE(within(5s, [&] { return programs().empty(); }));
+}
+
 TEST_F(FirstRoom, IsLeftOutWhenThePersonDeclinesAndTheProgramEnds)
 {
     serveWithWindows();
