@@ -2,7 +2,7 @@
 
 #include "automation/object.h"
 
-#include <algorithm>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <type_traits>
@@ -45,24 +45,33 @@ struct LocalMember {
     void (*write)(T& self, const Arguments& arguments) = nullptr;
 };
 
-/// Finds the members of one class by name, without regard to case.
-template <class T>
-class LocalMemberIndex {
+/// Finds a member of one class by its name, without regard to case. It knows positions alone, so that one class serves
+/// those of all others; of two members with one name it finds the first.
+class MemberIndex {
 public:
-    explicit LocalMemberIndex(std::span<const LocalMember<T>> members)
-    {
-        for (const auto& member : members)
-            byName_.emplace(member.name, &member);
-    }
-    [[nodiscard]] const LocalMember<T>* find(TextView name) const
-    {
-        const auto found = byName_.find(name);
-        return found == byName_.end() ? nullptr : found->second;
-    }
+    explicit MemberIndex(std::span<const TextView> names);
+    MemberIndex(const MemberIndex&) = delete;
+    MemberIndex& operator=(const MemberIndex&) = delete;
+    ~MemberIndex();
+
+    [[nodiscard]] std::optional<std::size_t> find(TextView name) const;
 
 private:
-    std::unordered_map<TextView, const LocalMember<T>*, HashIgnoringCase, EqualIgnoringCase> byName_;
+    std::unordered_map<TextView, std::size_t, HashIgnoringCase, EqualIgnoringCase> positions_;
 };
+
+template <class T>
+[[nodiscard]] MemberIndex indexOf(std::span<const LocalMember<T>> members)
+{
+    std::vector<TextView> names;
+    for (const auto& member : members)
+        names.push_back(member.name);
+    return MemberIndex{names};
+}
+
+/// Fails as a class does that lacks a member, or does not raise a set of events.
+[[noreturn]] void failWithoutMember(TextView className, TextView member);
+[[noreturn]] void failWithoutEvents(TextView className, TextView events);
 
 /// A late-bound object of this process, written as a class with a table of members:
 ///
@@ -78,17 +87,18 @@ class LocalObject : public Dispatch, public std::enable_shared_from_this<T> {
 public:
     Variant invoke(TextView name, Invocation kind, std::span<Variant> values) override
     {
-        static const LocalMemberIndex<T> index{T::members()};
-        const LocalMember<T>* member = index.find(name);
+        const std::span<const LocalMember<T>> members = T::members();
+        static const MemberIndex index = indexOf(members);
+        const auto position = index.find(name);
+        const LocalMember<T> member = position ? members[*position] : LocalMember<T>{};
         const bool put = kind == Invocation::Put;
-        if (member == nullptr || (put ? member->write == nullptr : member->read == nullptr))
-            throw Error{error_number::memberNotFound,
-                {Text{errorDescription(error_number::memberNotFound)}, Text{T::className}, Text{name}}};
+        if (put ? member.write == nullptr : member.read == nullptr)
+            failWithoutMember(T::className, name);
         const Arguments arguments{values};
         auto& self = static_cast<T&>(*this);
         if (!put)
-            return member->read(self, arguments);
-        member->write(self, arguments);
+            return member.read(self, arguments);
+        member.write(self, arguments);
         return {};
     }
 
@@ -96,8 +106,7 @@ public:
     {
         if (EventSource* source = eventSource(events))
             return source->connect(std::move(handler));
-        throw Error{error_number::eventsNotSupported,
-            {Text{errorDescription(error_number::eventsNotSupported)}, Text{T::className}, Text{events.name}}};
+        failWithoutEvents(T::className, events.name);
     }
 
 protected:

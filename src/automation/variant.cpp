@@ -48,6 +48,12 @@ Array Array::list(std::vector<Variant> values)
     return {{{0, size}}, std::move(values)};
 }
 
+Variant::Variant(const Variant& other) = default;
+Variant::Variant(Variant&& other) noexcept = default;
+Variant& Variant::operator=(const Variant& other) = default;
+Variant& Variant::operator=(Variant&& other) noexcept = default;
+Variant::~Variant() = default;
+
 Variant::Variant(Array array)
     : value_(std::make_shared<const Array>(std::move(array)))
 {

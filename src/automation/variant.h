@@ -59,6 +59,12 @@ public:
         double, Currency, Date, Text, std::shared_ptr<Dispatch>, std::shared_ptr<const Array>, Reference>;
 
     Variant() = default;
+    // Made in one place: every source that passes values would make them again, which takes the compiler long.
+    Variant(const Variant& other);
+    Variant(Variant&& other) noexcept;
+    Variant& operator=(const Variant& other);
+    Variant& operator=(Variant&& other) noexcept;
+    ~Variant();
     Variant(Null value)
         : value_(value)
     {
