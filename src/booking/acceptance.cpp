@@ -3,6 +3,7 @@
 #include "app/session.h"
 #include "app/user_name.h"
 #include "automation/conversion.h"
+#include "booking/app_copy.h"
 #include "booking/link_identifier.h"
 #include "storage/outlook_value.h"
 
@@ -64,7 +65,7 @@ void rememberDuration(BookingItem& booking)
     booking.property(BookingProperty::OriginalDuration).setValue(booking.duration());
 }
 
-Text acceptBooking(Session& session, BookingItem& booking)
+Text acceptBooking(Session& session, BookingItem& booking, CopyCalendars& copies)
 {
     if (!fncAddBookingProps(booking))
         return {};
@@ -77,7 +78,7 @@ Text acceptBooking(Session& session, BookingItem& booking)
     // One that cannot be read may be there: another would part the booking from its copies.
     if (!ocid || !ocid->empty())
         return ocid.value_or(Text{});
-    ocid = fncNewOCID(session);
+    ocid = fncNewOCID(session, copies);
     subSetOutlookValue(
         session, booking.item(), nameOf(BookingProperty::LinkIdentifier), *ocid, ValueKind::String, false);
     return *ocid;

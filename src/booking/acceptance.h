@@ -4,6 +4,7 @@
 
 namespace rf {
 
+class CopyCalendars;
 class Session;
 
 /// When the rules accepted a booking last, as its own properties have it.
@@ -29,6 +30,6 @@ void rememberDuration(BookingItem& booking);
 /// link identifier; empty when it is not known, and a booking without one must not be copied. When the properties
 /// cannot be added nothing more is written. No error leaves it, but a new identifier that cannot be written is reported
 /// and ends the program. The caller's save stores it all.
-Text acceptBooking(Session& session, BookingItem& booking);
+Text acceptBooking(Session& session, BookingItem& booking, CopyCalendars& copies);
 
 } // namespace rf

@@ -51,31 +51,43 @@ void writeCopy(
 outlook::Folder ownCalendar(const Session& session)
 {
     PendingError errors;
-    return errors.attempt(
-        [&] { return session.ouaApp.getNamespace().getDefaultFolder(outlook::DefaultFolder::Calendar); });
+    return errors.attempt([&] { return session.ounNameSpace.getDefaultFolder(outlook::DefaultFolder::Calendar); });
 }
 
-void fixAppCopy(Session& session, BookingItem& booking, TextView ocid, TextView sourceName,
-    const outlook::Folder& targetFolder, bool isPersonal)
+void fixAppCopy(
+    Session& session, BookingItem& booking, TextView ocid, TextView sourceName, CopyCalendar& target, bool isPersonal)
 {
     session.trace.subTrace(
         u"Checking if there already is an appointment in the personal calendar which is a copy of this one!");
-    if (!targetFolder || booking.folderEntryId() == targetFolder.entryId())
+    if (!target.folder() || booking.folderEntryId() == target.folder().entryId())
         return;
-    const auto items = targetFolder.items();
-    auto copy = findCopy(items, ocid);
+    auto copy = findCopy(target.items(), ocid);
     if (!copy)
-        copy = addCopy(session, items, ocid);
+        copy = addCopy(session, target.items(), ocid);
     writeCopy(session, booking, copy, sourceName, isPersonal);
+}
+
+void subFixAppCopy(
+    Session& session, BookingItem& booking, TextView ocid, TextView sourceName, CopyCalendar& target, bool isPersonal)
+{
+    session.reporter.handled(
+        u"cCurrInspector.subFixAppCopy", [&] { fixAppCopy(session, booking, ocid, sourceName, target, isPersonal); });
 }
 
 } // namespace
 
+const outlook::Items& CopyCalendar::items()
+{
+    if (!items_)
+        items_ = folder_.items();
+    return *items_;
+}
+
 void subFixAppCopy(Session& session, BookingItem& booking, TextView ocid, TextView sourceName,
     const outlook::Folder& targetFolder, bool isPersonal)
 {
-    session.reporter.handled(u"cCurrInspector.subFixAppCopy",
-        [&] { fixAppCopy(session, booking, ocid, sourceName, targetFolder, isPersonal); });
+    CopyCalendar target{targetFolder};
+    subFixAppCopy(session, booking, ocid, sourceName, target, isPersonal);
 }
 
 void subFixAppCopy(Session& session, const outlook::AppointmentItem& item, TextView ocid, TextView sourceName,
@@ -90,25 +102,38 @@ bool wantsCopies(const Session& session)
     return session.objSettings && (session.objSettings->PersonalCopy || session.objSettings->MasterCopy);
 }
 
-bool hasCopy(const Session& session, TextView ocid)
+CopyCalendar& CopyCalendars::personal()
 {
-    if (!wantsCopies(session))
-        return false;
-    const cSettings& settings = *session.objSettings;
-    const auto folder = settings.PersonalCopy ? ownCalendar(session) : settings.objOUMasterFolder.GetFolder();
-    PendingError errors;
-    return folder && static_cast<bool>(errors.attempt([&] { return findCopy(folder.items(), ocid); }));
+    if (!personal_)
+        personal_.emplace(ownCalendar(session_));
+    return *personal_;
 }
 
-void copyBooking(Session& session, BookingItem& booking, TextView ocid, TextView sourceName)
+CopyCalendar& CopyCalendars::master()
 {
-    if (!wantsCopies(session))
+    if (!master_)
+        master_.emplace(session_.objSettings->objOUMasterFolder.GetFolder());
+    return *master_;
+}
+
+bool CopyCalendars::holdCopy(TextView ocid)
+{
+    if (!wantsCopies(session_))
+        return false;
+    CopyCalendar& calendar = session_.objSettings->PersonalCopy ? personal() : master();
+    PendingError errors;
+    return calendar.folder() && static_cast<bool>(errors.attempt([&] { return findCopy(calendar.items(), ocid); }));
+}
+
+void CopyCalendars::copyBooking(BookingItem& booking, TextView ocid, TextView sourceName)
+{
+    if (!wantsCopies(session_))
         return;
-    const cSettings& settings = *session.objSettings;
+    const cSettings& settings = *session_.objSettings;
     if (settings.PersonalCopy)
-        subFixAppCopy(session, booking, ocid, sourceName, ownCalendar(session), true);
+        subFixAppCopy(session_, booking, ocid, sourceName, personal(), true);
     if (settings.MasterCopy)
-        subFixAppCopy(session, booking, ocid, sourceName, settings.objOUMasterFolder.GetFolder(), false);
+        subFixAppCopy(session_, booking, ocid, sourceName, master(), false);
 }
 
 } // namespace rf

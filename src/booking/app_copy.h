@@ -2,6 +2,8 @@
 
 #include "booking/booking_item.h"
 
+#include <optional>
+
 namespace rf {
 
 class Session;
@@ -20,12 +22,46 @@ void subFixAppCopy(Session& session, const outlook::AppointmentItem& item, TextV
 /// Whether the settings ask for copies of any kind.
 [[nodiscard]] bool wantsCopies(const Session& session);
 
-/// Whether a copy carries that link identifier, looked for in the first calendar that the settings have copies in.
-/// False as well where there is none to look in; no error leaves it.
-[[nodiscard]] bool hasCopy(const Session& session, TextView ocid);
+/// A calendar that takes copies, whose items are asked for once. Without a folder it takes none.
+class CopyCalendar {
+public:
+    explicit CopyCalendar(outlook::Folder folder)
+        : folder_(std::move(folder))
+    {
+    }
 
-/// Makes or refreshes the copies that the settings ask for: first the personal one in the user's default calendar, then
-/// the master one. A calendar that cannot be had gets none.
-void copyBooking(Session& session, BookingItem& booking, TextView ocid, TextView sourceName);
+    [[nodiscard]] const outlook::Folder& folder() const { return folder_; }
+    [[nodiscard]] const outlook::Items& items();
+
+private:
+    outlook::Folder folder_;
+    std::optional<outlook::Items> items_;
+};
+
+/// The calendars that the settings want copies in, for as long as one handler works on a booking: each is looked up
+/// when it is first needed, and once, since every look may go to another process.
+class CopyCalendars {
+public:
+    explicit CopyCalendars(Session& session)
+        : session_(session)
+    {
+    }
+
+    /// Whether a copy carries that link identifier, looked for in the first of the calendars. False as well where there
+    /// is none to look in; no error leaves it.
+    [[nodiscard]] bool holdCopy(TextView ocid);
+
+    /// Makes or refreshes the copies of a booking: first the personal one in the user's default calendar, then the
+    /// master one. A calendar that cannot be had gets none.
+    void copyBooking(BookingItem& booking, TextView ocid, TextView sourceName);
+
+private:
+    [[nodiscard]] CopyCalendar& personal();
+    [[nodiscard]] CopyCalendar& master();
+
+    Session& session_;
+    std::optional<CopyCalendar> personal_;
+    std::optional<CopyCalendar> master_;
+};
 
 } // namespace rf

@@ -42,10 +42,10 @@ void readWhole(BookingItem& dropped)
 }
 
 /// The booking's new link identifier; empty when the booking does not take it.
-Text link(Session& session, BookingItem& booking, PendingError& errors)
+Text link(Session& session, BookingItem& booking, CopyCalendars& copies, PendingError& errors)
 {
     return errors.attempt([&] {
-        Text ocid = fncNewOCID(session);
+        Text ocid = fncNewOCID(session, copies);
         booking.property(BookingProperty::LinkIdentifier).setValue(ocid);
         return ocid;
     });
@@ -135,22 +135,23 @@ void cAppItems::replace(BookingItem& dropped, PendingError& errors)
     errors.attempt([&] { replacement.property(BookingProperty::SafeOrganizer).setValue(fncGetUserName(session_)); });
     errors.attempt([&] { rememberStart(replacement); });
     errors.attempt([&] { rememberDuration(replacement); });
-    const Text ocid = link(session_, replacement, errors);
+    CopyCalendars copies{session_};
+    const Text ocid = link(session_, replacement, copies, errors);
     const bool isBooked = isTimed && fncValidateBooking(session_, replacement).empty()
         && succeeds(errors, [&] { replacement.item().save(); });
     if (isBooked)
-        copy(replacement, ocid);
+        copy(replacement, ocid, copies);
     else
         // Its window's own save tells the reason. What the host fails to set or to save is left to the person too: the
         // item that came is gone, and this is all there is of the booking.
         errors.attempt([&] { replacement.item().display(); });
 }
 
-void cAppItems::copy(BookingItem& booking, TextView ocid)
+void cAppItems::copy(BookingItem& booking, TextView ocid, CopyCalendars& copies) const
 {
     // Copies of a booking that does not know its link would never be found again, and every save would add another.
     if (!ocid.empty())
-        copyBooking(session_, booking, ocid, strFolderName_);
+        copies.copyBooking(booking, ocid, strFolderName_);
 }
 
 void cAppItems::ouisItems_ItemChange(const outlook::Item& item)
@@ -165,8 +166,10 @@ void cAppItems::ouisItems_ItemChange(const outlook::Item& item)
     const bool isValid = fncValidateBooking(session_, booking).empty();
     const auto move = moveOf(session_, booking, errors);
     const bool isChanged = move && (isValid ? remember(*move, booking, errors) : putBack(*move, booking, errors));
-    if (isValid && wantsCopies(session_))
-        copy(booking, errors.attempt([&] { return linkIdentifier(session_, booking); }));
+    if (isValid && wantsCopies(session_)) {
+        CopyCalendars copies{session_};
+        copy(booking, errors.attempt([&] { return linkIdentifier(session_, booking); }), copies);
+    }
     if (isChanged)
         errors.attempt([&] { booking.item().save(); });
     errors.clear();

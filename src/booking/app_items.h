@@ -7,6 +7,7 @@
 
 namespace rf {
 
+class CopyCalendars;
 class Session;
 
 /// Watches the items of one resource calendar and keeps it clean. What comes into it by other ways than the program's
@@ -45,7 +46,7 @@ public:
 
 private:
     void replace(BookingItem& dropped, PendingError& errors);
-    void copy(BookingItem& booking, TextView ocid);
+    void copy(BookingItem& booking, TextView ocid, CopyCalendars& copies) const;
 
     Session& session_;
     Text strFolderName_;

@@ -274,10 +274,11 @@ void cCurrInspector::ouaCurrApp_Write(bool& Cancel)
         Cancel = true;
         return;
     }
-    const Text ocid = acceptBooking(session_, booking);
+    CopyCalendars copies{session_};
+    const Text ocid = acceptBooking(session_, booking, copies);
     // A copy of a booking that does not know its link would never be found again, and every save would add another.
     if (!isRequest_ && !ocid.empty() && wantsCopies(session_))
-        copyBooking(session_, booking, ocid, sourceName(booking));
+        copies.copyBooking(booking, ocid, sourceName(booking));
 }
 
 void cCurrInspector::throwAway()

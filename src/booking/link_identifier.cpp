@@ -35,7 +35,7 @@ std::int64_t secondOf(const DateFields& time) { return Date::fromFields(time).se
 
 } // namespace
 
-Text fncNewOCID(Session& session)
+Text fncNewOCID(Session& session, CopyCalendars& copies)
 {
     DateFields time = timeOfMaking(session.services.clock);
     const Text user = fncGetUserName(session);
@@ -43,10 +43,16 @@ Text fncNewOCID(Session& session)
     if (session.lastLink && secondOf(time) <= *session.lastLink)
         goOn(*session.lastLink);
     // An instance that ran before this one may have been ahead of the clock, and the user may run one elsewhere.
-    for (int tries = 0; tries < mostTakenSeconds && hasCopy(session, identifierOf(time, user)); ++tries)
+    for (int tries = 0; tries < mostTakenSeconds && copies.holdCopy(identifierOf(time, user)); ++tries)
         goOn(secondOf(time));
     session.lastLink = secondOf(time);
     return identifierOf(time, user);
+}
+
+Text fncNewOCID(Session& session)
+{
+    CopyCalendars copies{session};
+    return fncNewOCID(session, copies);
 }
 
 } // namespace rf

@@ -4,6 +4,7 @@
 
 namespace rf {
 
+class CopyCalendars;
 class Session;
 
 /// A new link identifier, which a booking and its copies carry: the date and time and the current user's name, with
@@ -11,5 +12,7 @@ class Session;
 /// properties, and never changed. The time is that of its making, or the next second that no other identifier of this
 /// user names: bookings come faster than one a second, and two with one identifier would have one copy between them.
 [[nodiscard]] Text fncNewOCID(Session& session);
+/// The same for a handler that goes on with the calendars of the copies.
+[[nodiscard]] Text fncNewOCID(Session& session, CopyCalendars& copies);
 
 } // namespace rf

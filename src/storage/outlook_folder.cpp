@@ -60,7 +60,7 @@ outlook::Folder cOutlookFolder::GetFolder() const
         return Name.empty() || errors.attempt([&] { return folder.name(); }) == Name;
     };
     if (!EntryID.empty()) {
-        auto byIds = errors.attempt([&] { return session_.ouaApp.getNamespace().getFolderFromId(EntryID, StoreID); });
+        auto byIds = errors.attempt([&] { return session_.ounNameSpace.getFolderFromId(EntryID, StoreID); });
         if (byIds && isNamedSo(byIds))
             return byIds;
     }

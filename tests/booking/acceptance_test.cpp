@@ -1,5 +1,6 @@
 #include "booking/acceptance.h"
 
+#include "booking/app_copy.h"
 #include "booking/booking_fixture.h"
 
 namespace rf {
@@ -12,7 +13,8 @@ protected:
     Text accept(const outlook::AppointmentItem& item) const
     {
         BookingItem booking{item};
-        return acceptBooking(*session, booking);
+        CopyCalendars copies{*session};
+        return acceptBooking(*session, booking, copies);
     }
     [[nodiscard]] AcceptedTime acceptedTimeOf(const outlook::AppointmentItem& item) const
     {

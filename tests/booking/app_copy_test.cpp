@@ -178,7 +178,7 @@ TEST_F(AppCopy, IsMadeInBothCalendarsWhenTheSettingsSaySo)
     settings().PersonalCopy = true;
     copyToMaster(all);
     BookingItem booking{board()};
-    copyBooking(*session, booking, u"link", u"Room 1");
+    CopyCalendars{*session}.copyBooking(booking, u"link", u"Room 1");
     EXPECT_EQ(only(own).subject, u"Board");
     EXPECT_EQ(only(all).subject, u"FR: Board");
     EXPECT_EQ(only(all).categories, u"Roomfold");
@@ -187,10 +187,10 @@ TEST_F(AppCopy, IsMadeInBothCalendarsWhenTheSettingsSaySo)
 TEST_F(AppCopy, IsMadeInOneCalendarWhenTheSettingsSaySo)
 {
     BookingItem booking{board()};
-    copyBooking(*session, booking, u"link", u"Room 1");
+    CopyCalendars{*session}.copyBooking(booking, u"link", u"Room 1");
     EXPECT_TRUE(stored(own).empty());
     settings().PersonalCopy = true;
-    copyBooking(*session, booking, u"link", u"Room 1");
+    CopyCalendars{*session}.copyBooking(booking, u"link", u"Room 1");
     EXPECT_EQ(stored(own).size(), 1U);
     EXPECT_TRUE(stored(all).empty());
 }
@@ -199,7 +199,7 @@ TEST_F(AppCopy, IsNotMadeInAMasterCalendarThatIsTheBookingsOwn)
 {
     copyToMaster(room);
     BookingItem booking{board()};
-    copyBooking(*session, booking, u"link", u"Room 1");
+    CopyCalendars{*session}.copyBooking(booking, u"link", u"Room 1");
     EXPECT_EQ(stored(room).size(), 1U);
 }
 
@@ -207,7 +207,7 @@ TEST_F(AppCopy, IsNotMadeInAMasterCalendarThatIsGone)
 {
     copyToMaster(static_cast<host::FolderId>(4711));
     BookingItem booking{board()};
-    EXPECT_NO_THROW(copyBooking(*session, booking, u"link", u"Room 1"));
+    EXPECT_NO_THROW(CopyCalendars{*session}.copyBooking(booking, u"link", u"Room 1"));
 }
 
 TEST_F(AppCopy, ThatFailsIsReportedUnderItsLabelAndStaysUnsaved)

@@ -38,6 +38,7 @@ protected:
     {
         session = std::make_unique<Session>(services());
         session->ouaApp = std::move(application);
+        session->ounNameSpace = session->ouaApp.getNamespace();
         session->language.loadQuietly();
         session->strUserName = u"Jane Doe";
         session->objSettings = std::make_unique<cSettings>(*session);

@@ -30,6 +30,8 @@ protected:
     {
         const auto application = session->ouaApp;
         session->ouaApp = faulty(application);
+        const auto nameSpace = session->ounNameSpace;
+        session->ounNameSpace = faulty(nameSpace);
         toolkit.messages.clear();
         reported = false;
         try {
@@ -38,10 +40,12 @@ protected:
             reported = true;
         }
         EXPECT_EQ(toolkit.messages.size(), reported ? 1U : 0U);
-        if (reported)
+        if (reported) {
             attach(application);
-        else
+        } else {
             session->ouaApp = application;
+            session->ounNameSpace = nameSpace;
+        }
         copyBoth();
     }
 
