@@ -6,8 +6,10 @@
 #include <QCoreApplication>
 #include <QDBusPendingCallWatcher>
 #include <QEventLoop>
+#include <chrono>
 #include <exception>
 #include <limits>
+#include <thread>
 
 namespace rf::native::dbus {
 
@@ -16,8 +18,23 @@ namespace {
 /// D-Bus takes the greatest number for no limit.
 constexpr int withoutLimit = std::numeric_limits<int>::max();
 
-constexpr auto transportAndPaintingOnly
-    = QEventLoop::ExcludeUserInputEvents | QEventLoop::X11ExcludeTimers | QEventLoop::WaitForMoreEvents;
+constexpr auto transportAndPaintingOnly = QEventLoop::ExcludeUserInputEvents | QEventLoop::X11ExcludeTimers;
+
+/// Most replies come within this time. Who has gone to sleep meanwhile wakes later than the reply has come: on a
+/// machine with little else to do, waking a processor takes longer than the call.
+constexpr std::chrono::microseconds timeAwake{200};
+
+/// Handles what comes until there is a reply.
+void waitFor(const bool& done)
+{
+    const auto bedtime = std::chrono::steady_clock::now() + timeAwake;
+    while (!done && std::chrono::steady_clock::now() < bedtime) {
+        QCoreApplication::processEvents(transportAndPaintingOnly);
+        std::this_thread::yield();
+    }
+    while (!done)
+        QCoreApplication::processEvents(transportAndPaintingOnly | QEventLoop::WaitForMoreEvents);
+}
 
 } // namespace
 
@@ -41,8 +58,7 @@ void callAndWait(const QDBusConnection& connection, const QDBusMessage& call,
         finish();
     else
         QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, &watcher, finish);
-    while (!done)
-        QCoreApplication::processEvents(transportAndPaintingOnly);
+    waitFor(done);
     if (failure)
         std::rethrow_exception(failure);
 }
