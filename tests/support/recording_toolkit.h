@@ -18,16 +18,13 @@ struct ShownMessage {
 /// A timer that ticks when a test says so.
 class ManualTimer final : public ui::Timer {
 public:
-    explicit ManualTimer(std::function<void()> tick)
-        : tick_(std::move(tick))
-    {
-    }
+    explicit ManualTimer(std::function<void()> tick);
 
-    [[nodiscard]] bool enabled() const override { return enabled_; }
-    void setEnabled(bool enabled) override { enabled_ = enabled; }
-    [[nodiscard]] std::chrono::milliseconds interval() const override { return interval_; }
-    void setInterval(std::chrono::milliseconds interval) override { interval_ = interval; }
-    void tick() const { tick_(); }
+    [[nodiscard]] bool enabled() const override;
+    void setEnabled(bool enabled) override;
+    [[nodiscard]] std::chrono::milliseconds interval() const override;
+    void setInterval(std::chrono::milliseconds interval) override;
+    void tick() const;
 
 private:
     std::function<void()> tick_;
@@ -38,6 +35,11 @@ private:
 /// A toolkit without a screen: what is shown is kept, and answers come from the test.
 class RecordingToolkit final : public ui::Toolkit, public RecordingWindow::Owner {
 public:
+    RecordingToolkit();
+    RecordingToolkit(const RecordingToolkit&) = delete;
+    RecordingToolkit& operator=(const RecordingToolkit&) = delete;
+    ~RecordingToolkit() override;
+
     std::vector<ShownMessage> messages;
     /// Taken one for each message; when none is left the message is dismissed with its declining answer.
     std::deque<ui::Answer> answers;
@@ -58,75 +60,23 @@ public:
     std::function<void()> whileYielding;
 
     /// The window of the form that was made last; null when there is none.
-    [[nodiscard]] RecordingWindow* lastWindow() const { return formWindows.empty() ? nullptr : formWindows.back(); }
+    [[nodiscard]] RecordingWindow* lastWindow() const;
 
-    ui::Answer showMessage(TextView text, ui::MessageStyle style, TextView caption) override
-    {
-        messages.push_back({Text{text}, style, Text{caption}});
-        if (whileShown)
-            whileShown();
-        if (answers.empty())
-            return declining(style.buttons);
-        const auto answer = answers.front();
-        answers.pop_front();
-        return answer;
-    }
-    [[nodiscard]] std::unique_ptr<ui::Timer> makeTimer(std::function<void()> tick) override
-    {
-        return std::make_unique<ManualTimer>(std::move(tick));
-    }
-    void yieldToEvents() override
-    {
-        ++yields;
-        if (whileYielding)
-            whileYielding();
-    }
-    void run(const std::function<bool()>& goOn) override
-    {
-        while (goOn())
-            yieldToEvents();
-    }
-    [[nodiscard]] std::unique_ptr<ui::FormWindow> makeFormWindow() override
-    {
-        auto window = std::make_unique<RecordingWindow>(*this);
-        formWindows.push_back(window.get());
-        return window;
-    }
-    [[nodiscard]] ui::WindowHandle findWindow(TextView caption) override
-    {
-        const auto found = windows.find(Text{caption});
-        return found == windows.end() ? 0 : found->second;
-    }
-    [[nodiscard]] std::int32_t twipsPerPixel() override { return 15; }
-    void activateWindow(TextView caption) override { activated.emplace_back(caption); }
-    void setTopMost(ui::WindowHandle window, bool on) override { topMost.emplace_back(window, on); }
-    void showInTaskBar(ui::WindowHandle window) override { inTaskBar.push_back(window); }
+    ui::Answer showMessage(TextView text, ui::MessageStyle style, TextView caption) override;
+    [[nodiscard]] std::unique_ptr<ui::Timer> makeTimer(std::function<void()> tick) override;
+    void yieldToEvents() override;
+    void run(const std::function<bool()>& goOn) override;
+    [[nodiscard]] std::unique_ptr<ui::FormWindow> makeFormWindow() override;
+    [[nodiscard]] ui::WindowHandle findWindow(TextView caption) override;
+    [[nodiscard]] std::int32_t twipsPerPixel() override;
+    void activateWindow(TextView caption) override;
+    void setTopMost(ui::WindowHandle window, bool on) override;
+    void showInTaskBar(ui::WindowHandle window) override;
 
 private:
-    [[nodiscard]] automation::Object component(TextView className) override
-    {
-        const auto found = components.find(Text{className});
-        return found == components.end() ? automation::Object{} : found->second();
-    }
-    void shownModal(RecordingWindow& window) override
-    {
-        if (const auto act = whileModal)
-            act(window);
-    }
-    void destroyed(RecordingWindow& window) override { std::erase(formWindows, &window); }
-
-    [[nodiscard]] static ui::Answer declining(ui::Buttons buttons)
-    {
-        switch (buttons) {
-        case ui::Buttons::OkCancel:
-            return ui::Answer::Cancel;
-        case ui::Buttons::YesNo:
-            return ui::Answer::No;
-        case ui::Buttons::Ok:
-            break;
-        }
-        return ui::Answer::Ok;
-    }
+    [[nodiscard]] automation::Object component(TextView className) override;
+    void shownModal(RecordingWindow& window) override;
+    void destroyed(RecordingWindow& window) override;
 };
 
 } // namespace rf::test

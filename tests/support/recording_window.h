@@ -2,7 +2,6 @@
 
 #include "ui/unseen_window.h"
 
-#include <gtest/gtest.h>
 #include <memory>
 #include <stdexcept>
 #include <utility>
@@ -12,21 +11,17 @@ namespace rf::test {
 /// A component on a form. What a person selects in it comes from the test.
 class RecordingComponent final : public ui::AutomationControl {
 public:
-    RecordingComponent(TextView name, automation::Object object)
-        : name_(name)
-        , object_(std::move(object))
-    {
-    }
+    RecordingComponent(TextView name, automation::Object object);
 
-    [[nodiscard]] const Text& name() const override { return name_; }
-    [[nodiscard]] ui::Bounds bounds() const override { return bounds_; }
-    void setBounds(ui::Bounds bounds) override { bounds_ = bounds; }
-    [[nodiscard]] bool visible() const override { return visible_; }
-    void setVisible(bool visible) override { visible_ = visible; }
-    [[nodiscard]] bool enabled() const override { return enabled_; }
-    void setEnabled(bool enabled) override { enabled_ = enabled; }
-    void setFocus() override { }
-    [[nodiscard]] automation::Object object() const override { return object_; }
+    [[nodiscard]] const Text& name() const override;
+    [[nodiscard]] ui::Bounds bounds() const override;
+    void setBounds(ui::Bounds bounds) override;
+    [[nodiscard]] bool visible() const override;
+    void setVisible(bool visible) override;
+    [[nodiscard]] bool enabled() const override;
+    void setEnabled(bool enabled) override;
+    void setFocus() override;
+    [[nodiscard]] automation::Object object() const override;
 
 private:
     Text name_;
@@ -47,33 +42,16 @@ public:
         virtual void destroyed(RecordingWindow& window) = 0;
     };
 
-    explicit RecordingWindow(Owner& owner)
-        : owner_(owner)
-    {
-    }
+    explicit RecordingWindow(Owner& owner);
     RecordingWindow(const RecordingWindow&) = delete;
     RecordingWindow& operator=(const RecordingWindow&) = delete;
-    ~RecordingWindow() override { owner_.destroyed(*this); }
+    ~RecordingWindow() override;
 
     /// The classes of components that the form asked for, in order.
     std::vector<Text> asked;
 
-    ui::AutomationControl* addAutomationControl(TextView className, TextView name) override
-    {
-        asked.emplace_back(className);
-        const auto object = owner_.component(className);
-        if (!object)
-            return nullptr;
-        auto component = std::make_unique<RecordingComponent>(name, object);
-        auto* const added = component.get();
-        keep(std::move(component));
-        return added;
-    }
-    void showModal() override
-    {
-        show();
-        owner_.shownModal(*this);
-    }
+    ui::AutomationControl* addAutomationControl(TextView className, TextView name) override;
+    void showModal() override;
 
     /// The control of that name and kind; the test ends when the form has none.
     template <class Kind = ui::Control>
@@ -84,79 +62,29 @@ public:
             throw std::logic_error{"no such control: " + toUtf8(name)};
         return *control;
     }
-    [[nodiscard]] Text textOf(TextView name) const { return at<ui::TextBox>(name).text(); }
-    [[nodiscard]] Text labelOf(TextView name) const { return at<ui::Label>(name).caption(); }
-    [[nodiscard]] bool sees(TextView name) const { return at(name).visible(); }
+    [[nodiscard]] Text textOf(TextView name) const;
+    [[nodiscard]] Text labelOf(TextView name) const;
+    [[nodiscard]] bool sees(TextView name) const;
 
-    void press(TextView name) const
-    {
-        auto& button = usable<ui::Button>(name);
-        run(button.Click);
-    }
-    void choose(TextView name) const
-    {
-        auto& option = usable<ui::OptionButton>(name);
-        option.setFocus();
-        option.setValue(true);
-        run(option.Click);
-    }
+    void press(TextView name) const;
+    void choose(TextView name) const;
     /// Types key by key behind the text that is there. A key that is swallowed, or one too many, changes nothing.
-    void type(TextView name, TextView keys) const
-    {
-        auto& box = usable<ui::TextBox>(name);
-        box.setFocus();
-        for (const char16_t unit : keys) {
-            char16_t key = unit;
-            if (const auto pressed = box.KeyPressed)
-                pressed(key);
-            enter(box, key);
-            run(box.KeyUp);
-        }
-    }
-    void replace(TextView name, TextView text) const
-    {
-        at<ui::TextBox>(name).setText({});
-        type(name, text);
-    }
-    void focus(TextView name) const { usable<ui::Control>(name).setFocus(); }
-    void select(TextView name, const Text& address) const
-    {
-        const auto selected = usable<ui::AutomationControl>(name).SelectionChange;
-        if (selected)
-            selected(address);
-    }
+    void type(TextView name, TextView keys) const;
+    void replace(TextView name, TextView text) const;
+    void focus(TextView name) const;
+    void select(TextView name, const Text& address) const;
     /// Closes the window by its system box. The form may take the window away.
-    void closeBySystemBox()
-    {
-        const std::weak_ptr<char> alive = alive_;
-        const auto mayClose = QueryUnload;
-        if ((!mayClose || mayClose()) && !alive.expired())
-            close();
-    }
+    void closeBySystemBox();
 
 private:
+    /// What a person can reach; the test ends when it is out of reach.
     template <class Kind>
     [[nodiscard]] Kind& usable(TextView name) const
     {
         auto& control = at<Kind>(name);
-        EXPECT_TRUE(control.visible() && control.enabled()) << toUtf8(name) << " cannot be reached";
+        if (!control.visible() || !control.enabled())
+            throw std::logic_error{toUtf8(name) + " cannot be reached"};
         return control;
-    }
-    static void enter(ui::TextBox& box, char16_t key)
-    {
-        Text text = box.text();
-        if (key == ui::backspaceKey && !text.empty())
-            text.pop_back();
-        const auto limit = static_cast<std::size_t>(box.maxLength());
-        if (key >= u' ' && !box.readOnly() && (limit == 0 || text.size() < limit))
-            text += key;
-        box.setText(text);
-    }
-    /// The handler is copied, since it may take the form away.
-    static void run(const std::function<void()>& handler)
-    {
-        if (const auto running = handler)
-            running();
     }
 
     Owner& owner_;

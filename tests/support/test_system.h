@@ -2,9 +2,7 @@
 
 #include "basic/process_table.h"
 #include "basic/system.h"
-#include "support/program_ended.h"
 
-#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -14,6 +12,11 @@ namespace rf::test {
 /// The operating system as a test sets it. What the program asks for is kept in order.
 class TestSystem final : public System {
 public:
+    TestSystem();
+    TestSystem(const TestSystem&) = delete;
+    TestSystem& operator=(const TestSystem&) = delete;
+    ~TestSystem() override;
+
     SystemVersion osVersion{2, 5, 1, {}};
     ProgramVersion program{5, 0, 2146};
     Text arguments;
@@ -25,38 +28,35 @@ public:
     std::vector<std::pair<Text, WindowStyle>> launched;
     std::vector<std::pair<Text, Text>> verbs;
 
-    [[nodiscard]] SystemVersion version() const override { return osVersion; }
-    [[nodiscard]] ProgramVersion programVersion() const override { return program; }
-    [[nodiscard]] Text commandLine() const override { return arguments; }
-    [[nodiscard]] std::string_view resource(TextView type, TextView name) const override
-    {
-        return type == u"CUSTOM" && name == u"LANGUAGE" ? std::string_view{languageTable} : std::string_view{};
-    }
-    void initCommonControls(std::uint32_t classFlags) override { commonControls.push_back(classFlags); }
-    void launch(TextView command, WindowStyle style) override { launched.emplace_back(command, style); }
-    void invokeVerb(TextView verb, TextView path) override { verbs.emplace_back(verb, path); }
-    [[nodiscard]] Text browserCommand() const override { return browser; }
-    void endProcess() override { throw ProgramEnded{}; }
+    [[nodiscard]] SystemVersion version() const override;
+    [[nodiscard]] ProgramVersion programVersion() const override;
+    [[nodiscard]] Text commandLine() const override;
+    [[nodiscard]] std::string_view resource(TextView type, TextView name) const override;
+    void initCommonControls(std::uint32_t classFlags) override;
+    void launch(TextView command, WindowStyle style) override;
+    void invokeVerb(TextView verb, TextView path) override;
+    [[nodiscard]] Text browserCommand() const override;
+    void endProcess() override;
 };
 
 /// Processes as a test lists them.
 class TestProcesses final : public ProcessTable {
 public:
+    TestProcesses();
+    TestProcesses(const TestProcesses&) = delete;
+    TestProcesses& operator=(const TestProcesses&) = delete;
+    ~TestProcesses() override;
+
     std::vector<ProcessEntry> running;
     bool previousInstance = false;
     std::uint32_t own = 100;
     std::vector<std::uint32_t> terminated;
 
-    void walk(const std::function<bool(const ProcessEntry&)>& visit) const override
-    {
-        for (const auto& process : running)
-            if (visit(process))
-                return;
-    }
-    [[nodiscard]] bool previousInstanceRuns() const override { return previousInstance; }
-    [[nodiscard]] TextView programFile() const override { return u"RFBOOKINGINFO.EXE"; }
-    [[nodiscard]] std::uint32_t ownId() const override { return own; }
-    void terminate(std::uint32_t id) override { terminated.push_back(id); }
+    void walk(const std::function<bool(const ProcessEntry&)>& visit) const override;
+    [[nodiscard]] bool previousInstanceRuns() const override;
+    [[nodiscard]] TextView programFile() const override;
+    [[nodiscard]] std::uint32_t ownId() const override;
+    void terminate(std::uint32_t id) override;
 };
 
 } // namespace rf::test
