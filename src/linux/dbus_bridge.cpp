@@ -7,10 +7,8 @@
 #include <QCoreApplication>
 #include <QDBusPendingCallWatcher>
 #include <QDBusReply>
-#include <QLibrary>
 #include <algorithm>
 #include <atomic>
-#include <limits>
 
 namespace rf::native::dbus {
 
@@ -27,20 +25,6 @@ QString freshConnectionName()
 {
     static std::atomic<int> last{0};
     return QStringLiteral("automation-%1").arg(++last);
-}
-
-/// libdbus stops reading while more than a set size of messages is in use, and starts again as the last of them goes.
-/// They go on this thread, where Qt cannot start the reading that another one does, and the connection would be deaf
-/// from then on. So the size has no limit but that of the bus, which bounds what a process may send.
-void readWithoutLimit(const QDBusConnection& connection)
-{
-    constexpr int libdbusVersion = 3;
-    using SetSize = void (*)(void* connection, long size);
-    QLibrary libdbus{QStringLiteral("dbus-1"), libdbusVersion};
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a resolved name has no type of its own.
-    const auto setSize = reinterpret_cast<SetSize>(libdbus.resolve("dbus_connection_set_max_received_size"));
-    if (setSize != nullptr)
-        setSize(connection.internalPointer(), std::numeric_limits<long>::max());
 }
 
 } // namespace
@@ -73,6 +57,7 @@ Bridge::Bridge(QDBusConnection connection, std::span<const EventInterface* const
     : connection_(std::move(connection))
     , events_(events)
     , receiver_(std::make_unique<Receiver>(*this))
+    , lines_(std::make_unique<Lines>(connection_, *receiver_))
 {
     watcher_.setConnection(connection_);
     watcher_.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
@@ -87,6 +72,7 @@ Bridge::~Bridge()
 {
     connection_.unregisterObject(rootPath(), QDBusConnection::UnregisterTree);
     exports_.clear();
+    lines_.reset();
     // References that are still held elsewhere end with the connection.
     QDBusConnection::disconnectFromBus(connection_.name());
 }
@@ -130,6 +116,7 @@ void Bridge::processEnded(const QString& process)
         pastTraffic_.calls += past.mapped().calls;
         pastTraffic_.events += past.mapped().events;
     }
+    lines_->close(process);
     sayFarewell(process);
 }
 
@@ -183,7 +170,7 @@ void Bridge::ask(const QDBusMessage& call, QLatin1StringView signature, TextView
 try {
     const auto self = shared_from_this();
     sendReleasesWhenMany();
-    callAndWait(connection_, call, [&](const QDBusMessage& reply) {
+    callAndWait(connectionTo(call.service()), call, [&](const QDBusMessage& reply) {
         if (reply.type() != QDBusMessage::ReplyMessage)
             throw errorOf(reply, member);
         if (reply.signature() != signature)
@@ -198,12 +185,28 @@ std::shared_ptr<Dispatch> Bridge::root(const QString& process, const QString& na
 {
     if (process == ownName())
         return ownRoot(name);
+    openLine(process);
     auto call = makeCall(process, rootPath(), QStringLiteral("Root"));
     call << name;
     std::shared_ptr<Dispatch> object;
     ask(call, QLatin1StringView{"(yv)"}, {},
         [&](const QList<QVariant>& reply) { object = unpack(argumentOf<WireValue>(reply, 0), *this).dispatch(); });
     return object;
+}
+
+void Bridge::openLine(const QString& process)
+{
+    if (lines_->leadTo(process))
+        return;
+    auto question = makeCall(process, rootPath(), QStringLiteral("Line"));
+    Lines::Invitation invitation;
+    callAndWait(connection_, question, [&](const QDBusMessage& reply) {
+        if (reply.type() == QDBusMessage::ReplyMessage && reply.signature() == QLatin1StringView{"st"})
+            invitation = {reply.arguments().at(0).toString(), reply.arguments().at(1).toULongLong()};
+    });
+    // Whose answer is another one has no lines, and is called over the bus.
+    if (lines_->follow(process, invitation))
+        watch(process);
 }
 
 std::shared_ptr<Dispatch> Bridge::ownRoot(const QString& name) const
@@ -254,7 +257,7 @@ void Bridge::sendReleases()
         auto message = makeCall(process, rootPath(), QStringLiteral("Release"));
         message << QVariant::fromValue(gone);
         // A process that has gone needs no farewell, so nobody waits for an answer.
-        connection_.send(message);
+        connectionTo(process).send(message);
     }
     releaseCount_ = 0;
 }

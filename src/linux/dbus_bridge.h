@@ -4,6 +4,7 @@
 #include "automation/farewell.h"
 #include "linux/dbus_call.h"
 #include "linux/dbus_exports.h"
+#include "linux/dbus_lines.h"
 #include "linux/dbus_value.h"
 
 #include <QDBusServiceWatcher>
@@ -61,6 +62,8 @@ public:
     void setFarewells(std::span<const automation::Farewell> farewells) { farewells_ = farewells; }
 
     [[nodiscard]] QDBusConnection connection() const { return connection_; }
+    /// The connection for messages to another process: a line of its own, else the bus.
+    [[nodiscard]] QDBusConnection connectionTo(const QString& process) const { return lines_->to(process); }
     [[nodiscard]] QString ownName() const { return connection_.baseService(); }
     /// The set of events by its name; null when objects of this process offer no such set.
     [[nodiscard]] const automation::EventInterface* findEvents(TextView name) const;
@@ -103,6 +106,8 @@ private:
     void startReceiving();
     [[nodiscard]] std::shared_ptr<automation::Dispatch> ownRoot(const QString& name) const;
 
+    /// Opens a line to a process that is going to be called often, unless there is one or none can be had.
+    void openLine(const QString& process);
     /// Notices the end of a process that holds something of this one.
     void watch(const QString& process);
     void processEnded(const QString& process);
@@ -139,6 +144,7 @@ private:
     QTimer releaseTimer_;
     QTimer busTimer_;
     std::unique_ptr<Receiver> receiver_;
+    std::unique_ptr<Lines> lines_;
 };
 
 } // namespace rf::native::dbus

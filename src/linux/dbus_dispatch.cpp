@@ -59,7 +59,7 @@ Connection DbusDispatch::advise(const EventInterface& events, EventHandler handl
         auto farewell = makeCall(self->process_, self->path_, QStringLiteral("Unadvise"));
         farewell << QVariant::fromValue(qulonglong{sink});
         // A source that has gone needs no farewell, so its failure means nothing.
-        self->bridge_->connection().send(farewell);
+        self->bridge_->connectionTo(self->process_).send(farewell);
     }};
     auto call = makeCall(process_, path_, QStringLiteral("Advise"));
     call << qtText(events.name) << QVariant::fromValue(qulonglong{sink});

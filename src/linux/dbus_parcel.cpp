@@ -1,6 +1,7 @@
 #include "linux/dbus_parcel.h"
 
 #include "linux/dbus_bridge.h"
+#include "linux/dbus_call.h"
 #include "linux/dbus_dispatch.h"
 
 namespace rf::native::dbus {
@@ -30,8 +31,9 @@ void Parcel::seal()
     for (const auto& object : others_) {
         auto message = makeCall(object->process(), rootPath(), QStringLiteral("AddRef"));
         message << QVariant::fromValue(QDBusObjectPath{object->path()}) << receiver_;
+        // Answered before the object goes out: the receiver may give it back at once, by another way than this call's.
         // Should the owner have gone, the receiver finds out as everybody does: by using the object.
-        bridge_.connection_.send(message);
+        callAndWait(bridge_.connectionTo(object->process()), message, [](const QDBusMessage&) {});
     }
 }
 

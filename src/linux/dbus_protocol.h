@@ -14,13 +14,15 @@ namespace rf::native::dbus {
 //                              Release(a(ot))                     gives references up, so many of each object
 //                              Traffic(process s) -> ttt          calls answered, events raised and handlers connected,
 //                                                                 for one process or, without a name, for all
+//                              Line() -> st                       where a line past the bus may be opened, and the word
+//                              Hello(word t)                      said first on such a line; all else may follow on it
 //   at /automation/object/N    Invoke(member s, kind y, arguments a(yv)) -> (yv), a(u(yv))
 //                              Advise(events s, sink t), Unadvise(sink t)
 //   at /automation/sink/N      Event(event s, arguments a(yv)) -> a(u(yv))
 //
 // A value (yv) is a tag and what D-Bus carries of it. a(u(yv)) are the arguments by reference that were assigned, by
 // their position. Whoever sends an object to a process gives it one reference to it: to an object of its own by
-// counting, to one of a third process by an AddRef that goes out before. The last reference ends the object's path.
+// counting, to one of a third process by an AddRef that is answered before. The last reference ends the object's path.
 // A failure is an error reply with the number, description, source and member behind its message.
 
 inline QString interfaceName() { return QStringLiteral("roomfold.Automation"); }

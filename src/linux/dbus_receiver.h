@@ -24,7 +24,7 @@ public:
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
 
 private:
-    [[nodiscard]] QDBusMessage answer(const QDBusMessage& call);
+    [[nodiscard]] QDBusMessage answer(const QDBusMessage& message, const QDBusConnection& connection);
 
     Bridge& bridge_;
     int depth_ = 0;

@@ -35,7 +35,7 @@ void RemoteSink::operator()(TextView event, std::span<Variant> arguments) const
             isGone = !isToldByCallee(reply);
     };
     try {
-        callAndWait(bridge->connection(), call, read);
+        callAndWait(bridge->connectionTo(process_), call, read);
     } catch (const BadMessage&) {
         isGone = true;
     }

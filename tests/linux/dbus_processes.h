@@ -39,10 +39,11 @@ public:
     }
 
     /// Asks it to end.
-    void terminate() const
+    void terminate() const { signal(SIGTERM); }
+    void signal(int number) const
     {
         if (id_ > 0)
-            kill(id_, SIGTERM);
+            kill(id_, number);
     }
 
     /// Its exit status when it ends in time; 128 and the signal's number when it was killed.
@@ -116,6 +117,7 @@ public:
     [[nodiscard]] const std::string& address() const { return address_; }
     /// The bus goes down with all its connections.
     void end() { daemon_->end(); }
+    void signal(int number) const { daemon_->signal(number); }
 
 private:
     static std::string uniqueName()
