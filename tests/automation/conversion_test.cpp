@@ -1,6 +1,7 @@
 #include "automation/conversion.h"
 
 #include "automation/room.h"
+#include "basic/amount.h"
 #include "basic/error_of.h"
 #include "basic/pattern_regional.h"
 
@@ -14,12 +15,11 @@ namespace rf::automation {
 
 namespace {
 
+using test::amount;
 using test::errorOf;
 
 constexpr Date february{36923};
 constexpr Date februaryMorning{36923.25};
-
-Currency money(std::int64_t tenThousandths) { return Currency::fromTenThousandths(tenThousandths); }
 
 /// The numbers of the errors with which the conversions answer, 0 for a value.
 std::vector<std::int32_t> errorsOfConversions(const Regional& regional, const Variant& value)
@@ -73,7 +73,7 @@ TEST_F(VariantConversion, WritesEveryKindAsTheUserDoes)
              {1.5F, u"1.5", u"1,5"},
              {0.1F, u"0.1", u"0,1"},
              {-0.25, u"-0.25", u"-0,25"},
-             {money(12345000), u"1234.5", u"1234,5"},
+             {amount(12345000), u"1234.5", u"1234,5"},
              {february, u"2/1/2001", u"01.02.2001"},
              {februaryMorning, u"2/1/2001 6:00:00 AM", u"01.02.2001 06:00:00"},
              {Date{0.25}, u"6:00:00 AM", u"06:00:00"},
@@ -90,8 +90,8 @@ TEST_F(VariantConversion, ReadsTextsAsTheUserWritesThem)
     EXPECT_EQ(toDouble(english_, u"1,5"), 15);
     EXPECT_EQ(toDouble(german_, u"1.5"), 15);
     EXPECT_EQ(toDouble(english_, u"1.5"), 1.5);
-    EXPECT_EQ(toCurrency(german_, u"1,5"), money(15000));
-    EXPECT_EQ(toCurrency(english_, u"1,5"), money(150000));
+    EXPECT_EQ(toCurrency(german_, u"1,5"), amount(15000));
+    EXPECT_EQ(toCurrency(english_, u"1,5"), amount(150000));
     EXPECT_EQ(toDate(german_, u"1.2.2001"), february);
     EXPECT_EQ(toDate(english_, u"2/1/2001"), february);
     EXPECT_EQ(toDate(german_, u"36923,25"), februaryMorning);
@@ -123,12 +123,12 @@ TEST_F(VariantConversion, TakesNumbersOfEveryKindWhateverTheSettings)
 {
     for (const Regional* regional : both_)
         for (const Variant& three : {Variant{std::uint8_t{3}}, Variant{std::int16_t{3}}, Variant{3}, Variant{3.0F},
-                 Variant{3.0}, Variant{money(30000)}, Variant{Date{3}}, Variant{u"3"}}) {
+                 Variant{3.0}, Variant{amount(30000)}, Variant{Date{3}}, Variant{u"3"}}) {
             SCOPED_TRACE(three.value().index());
             EXPECT_EQ(toInteger(*regional, three), 3);
             EXPECT_EQ(toLong(*regional, three), 3);
             EXPECT_EQ(toDouble(*regional, three), 3);
-            EXPECT_EQ(toCurrency(*regional, three), money(30000));
+            EXPECT_EQ(toCurrency(*regional, three), amount(30000));
             EXPECT_EQ(toDate(*regional, three), Date{3});
             EXPECT_TRUE(toBoolean(*regional, three));
         }
@@ -139,8 +139,8 @@ TEST_F(VariantConversion, RoundsNumbersHalfToEven)
     EXPECT_EQ(toInteger(english_, 0.5), 0);
     EXPECT_EQ(toInteger(english_, 1.5), 2);
     EXPECT_EQ(toLong(english_, 2.5), 2);
-    EXPECT_EQ(toLong(english_, money(-25000)), -2);
-    EXPECT_EQ(toCurrency(english_, 0.00015), money(2));
+    EXPECT_EQ(toLong(english_, amount(-25000)), -2);
+    EXPECT_EQ(toCurrency(english_, 0.00015), amount(2));
 }
 
 TEST_F(VariantConversion, TakesTruthAsMinusOne)
@@ -148,7 +148,7 @@ TEST_F(VariantConversion, TakesTruthAsMinusOne)
     EXPECT_EQ(toInteger(english_, true), -1);
     EXPECT_EQ(toLong(english_, true), -1);
     EXPECT_EQ(toDouble(english_, true), -1);
-    EXPECT_EQ(toCurrency(english_, true), money(-10000));
+    EXPECT_EQ(toCurrency(english_, true), amount(-10000));
     EXPECT_EQ(toDate(english_, true), Date{-1});
     EXPECT_TRUE(toBoolean(english_, true));
     EXPECT_FALSE(toBoolean(english_, false));
@@ -263,7 +263,7 @@ TEST_F(VariantConversion, TellsNumbersAndDatesFromOtherValues)
              {"long", 1, true, false},
              {"float", 1.0F, true, false},
              {"double", 1.0, true, false},
-             {"money", money(1), true, false},
+             {"money", amount(1), true, false},
              {"date", february, false, true},
              {"object", std::make_shared<test::Room>(), false, false},
              {"no object", std::shared_ptr<Dispatch>{}, false, false},

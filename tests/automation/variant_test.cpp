@@ -2,6 +2,7 @@
 
 #include "automation/object.h"
 #include "automation/room.h"
+#include "basic/amount.h"
 #include "basic/error_of.h"
 
 #include <gtest/gtest.h>
@@ -17,10 +18,9 @@ namespace rf::automation {
 
 namespace {
 
+using test::amount;
 using test::errorOf;
 using test::Room;
-
-Currency money(std::int64_t tenThousandths) { return Currency::fromTenThousandths(tenThousandths); }
 
 Variant someRoom() { return std::make_shared<Room>(); }
 
@@ -144,13 +144,13 @@ TEST(ArrayVariant, ServesAsAnArrayOnly)
 TEST(NumericVariant, ServesAsEveryOtherNumber)
 {
     for (const Variant& three : {Variant{std::uint8_t{3}}, Variant{std::int16_t{3}}, Variant{3}, Variant{3.0F},
-             Variant{3.0}, Variant{money(30000)}, Variant{Date{3}}}) {
+             Variant{3.0}, Variant{amount(30000)}, Variant{Date{3}}}) {
         SCOPED_TRACE(three.value().index());
         EXPECT_TRUE(three.boolean());
         EXPECT_EQ(three.integer16(), 3);
         EXPECT_EQ(three.integer32(), 3);
         EXPECT_EQ(three.number(), 3);
-        EXPECT_EQ(three.currency(), money(30000));
+        EXPECT_EQ(three.currency(), amount(30000));
         EXPECT_EQ(three.date(), Date{3});
         expectReaders(three, numericReaders(), 13);
     }
@@ -166,7 +166,7 @@ TEST(NumericVariant, IsFalseWhenItIsZero)
 TEST(NumericVariant, IsTrueForTheSmallestPart)
 {
     EXPECT_TRUE(Variant{0.25}.boolean());
-    EXPECT_TRUE(Variant{money(1)}.boolean());
+    EXPECT_TRUE(Variant{amount(1)}.boolean());
     EXPECT_TRUE(Variant{-1}.boolean());
 }
 
@@ -176,7 +176,7 @@ TEST(TruthVariant, CountsAsMinusOne)
     EXPECT_EQ(Variant{true}.integer16(), -1);
     EXPECT_EQ(Variant{true}.integer32(), -1);
     EXPECT_EQ(Variant{true}.number(), -1);
-    EXPECT_EQ(Variant{true}.currency(), money(-10000));
+    EXPECT_EQ(Variant{true}.currency(), amount(-10000));
     EXPECT_EQ(Variant{true}.date(), Date{-1});
     EXPECT_EQ(Variant{false}.integer32(), 0);
     expectReaders(true, numericReaders(), 13);
@@ -191,19 +191,19 @@ TEST(NumericVariant, RoundsHalfToEven)
         EXPECT_EQ(Variant{number}.integer32(), whole) << number;
     }
     EXPECT_EQ(Variant{2.5F}.integer32(), 2);
-    EXPECT_EQ(Variant{money(35000)}.integer32(), 4);
+    EXPECT_EQ(Variant{amount(35000)}.integer32(), 4);
     EXPECT_EQ(Variant{Date{36923.5}}.integer32(), 36924);
 }
 
 TEST(NumericVariant, RoundsMoneyHalfToEvenAtTheFourthDecimal)
 {
-    EXPECT_EQ(Variant{0.00005}.currency(), money(0));
-    EXPECT_EQ(Variant{0.00015}.currency(), money(2));
+    EXPECT_EQ(Variant{0.00005}.currency(), amount(0));
+    EXPECT_EQ(Variant{0.00015}.currency(), amount(2));
 }
 
 TEST(NumericVariant, HandsMoneyOnWithoutFloatingPoint)
 {
-    EXPECT_EQ(Variant{money(9223372036854775807)}.currency(), money(9223372036854775807));
+    EXPECT_EQ(Variant{amount(9223372036854775807)}.currency(), amount(9223372036854775807));
 }
 
 TEST(NumericVariant, OverflowsOutsideTheRange)
@@ -291,7 +291,7 @@ TEST(VariantReference, ServesEveryReader)
     EXPECT_TRUE(reference.boolean());
     EXPECT_EQ(reference.integer16(), 3);
     EXPECT_EQ(reference.number(), 3);
-    EXPECT_EQ(reference.currency(), money(30000));
+    EXPECT_EQ(reference.currency(), amount(30000));
     EXPECT_EQ(reference.date(), Date{3});
     target = someArray();
     EXPECT_EQ(reference.array(), target.array());
@@ -347,7 +347,7 @@ TEST(VariantEquality, AsksForTheSameKindAndTheSameValue)
     EXPECT_TRUE(Variant{Missing{}} == Variant{Missing{}});
     EXPECT_TRUE(Variant{1} == Variant{1});
     EXPECT_FALSE(Variant{1} == Variant{2});
-    EXPECT_TRUE(Variant{money(5)} == Variant{money(5)});
+    EXPECT_TRUE(Variant{amount(5)} == Variant{amount(5)});
     EXPECT_TRUE(Variant{u"a"} == Variant{Text{u"a"}});
 }
 

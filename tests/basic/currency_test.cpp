@@ -1,5 +1,6 @@
 #include "basic/currency.h"
 
+#include "basic/amount.h"
 #include "basic/error_of.h"
 
 #include <gtest/gtest.h>
@@ -9,12 +10,11 @@
 namespace rf {
 namespace {
 
+using test::amount;
 using test::errorOf;
 
 constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
 constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
-
-Currency amount(std::int64_t tenThousandths) { return Currency::fromTenThousandths(tenThousandths); }
 
 TEST(Currency, HasFourDecimals)
 {

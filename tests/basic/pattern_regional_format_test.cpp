@@ -1,3 +1,4 @@
+#include "basic/amount.h"
 #include "basic/error_of.h"
 #include "basic/locales.h"
 
@@ -9,6 +10,7 @@
 namespace rf {
 namespace {
 
+using test::amount;
 using test::errorOf;
 
 class Format : public ::testing::Test {
@@ -17,8 +19,6 @@ protected:
     const PatternRegional german_{germanSettings()};
     const PatternRegional korean_{test::koreanSettings()};
 };
-
-Currency amount(std::int64_t tenThousandths) { return Currency::fromTenThousandths(tenThousandths); }
 
 TEST_F(Format, WritesNumbersInFifteenDigits)
 {

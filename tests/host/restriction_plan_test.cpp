@@ -22,7 +22,7 @@ void PrintTo(const TimeWindow& window, std::ostream* out)
 
 namespace {
 
-const PatternRegional& english()
+const PatternRegional& englishDates()
 {
     static const PatternRegional regional{englishSettings()};
     return regional;
@@ -30,13 +30,13 @@ const PatternRegional& english()
 
 constexpr int year = 2001;
 
-Date at(int hour, int minute = 0, int second = 0)
+Date timeOfDay(int hour, int minute = 0, int second = 0)
 {
     return Date::fromFields({.year = year, .month = 2, .day = 1, .hour = hour, .minute = minute, .second = second});
 }
 
 /// From an hour to the last second of the minute that begins at the other.
-TimeWindow hours(int from, int to) { return {at(from), at(to, 0, 59)}; }
+TimeWindow hours(int from, int to) { return {timeOfDay(from), timeOfDay(to, 0, 59)}; }
 
 std::vector<FieldDefinition> folderFields() { return {{u"OCID", 1}, {u"Guests", 3}, {u"Seen", 5}}; }
 
@@ -51,7 +51,7 @@ Restriction parsed(TextView text)
             full += text[place];
         }
     }
-    return Restriction::parse(full, folderFields(), english());
+    return Restriction::parse(full, folderFields(), englishDates());
 }
 
 std::optional<TimeWindows> windowsOf(TextView text)
@@ -83,20 +83,20 @@ TEST(Plan, OfTheOverlapFilterForAnEmptyIntervalIsItsMinute)
 
 TEST(Plan, OfAStartInsideAnIntervalIsTheInterval)
 {
-    EXPECT_EQ(windowsOf(u"[Start] >= @2 and [Start] < @5"), (Windows{{{at(2), at(4, 59, 59)}}}));
-    EXPECT_EQ(windowsOf(u"[Start] > @2 and [Start] <= @5"), (Windows{{{at(2, 1), at(5, 0, 59)}}}));
+    EXPECT_EQ(windowsOf(u"[Start] >= @2 and [Start] < @5"), (Windows{{{timeOfDay(2), timeOfDay(4, 59, 59)}}}));
+    EXPECT_EQ(windowsOf(u"[Start] > @2 and [Start] <= @5"), (Windows{{{timeOfDay(2, 1), timeOfDay(5, 0, 59)}}}));
     EXPECT_EQ(windowsOf(u"[Start] = @2"), (Windows{{hours(2, 2)}}));
 }
 
 TEST(Plan, OfAnEndInsideAnIntervalIsTheInterval)
 {
-    EXPECT_EQ(windowsOf(u"[End] > @2 and [End] <= @5"), (Windows{{{at(2, 1), at(5, 0, 59)}}}));
+    EXPECT_EQ(windowsOf(u"[End] > @2 and [End] <= @5"), (Windows{{{timeOfDay(2, 1), timeOfDay(5, 0, 59)}}}));
     EXPECT_EQ(windowsOf(u"[End] = @2"), (Windows{{hours(2, 2)}}));
 }
 
 TEST(Plan, OfTwoIntervalsThatOverlapIsTheirCommonPart)
 {
-    EXPECT_EQ(windowsOf(u"[Start] < @5 and [End] > @2"), (Windows{{{at(2, 1), at(4, 59, 59)}}}));
+    EXPECT_EQ(windowsOf(u"[Start] < @5 and [End] > @2"), (Windows{{{timeOfDay(2, 1), timeOfDay(4, 59, 59)}}}));
 }
 
 TEST(Plan, OfItemsThatCoverAnIntervalIsAMinuteOfIt)
@@ -106,17 +106,17 @@ TEST(Plan, OfItemsThatCoverAnIntervalIsAMinuteOfIt)
 
 TEST(Plan, IsOpenOnOneSideWhereTheConditionIs)
 {
-    EXPECT_EQ(windowsOf(u"[Start] >= @2"), (Windows{{{at(2), lastDate()}}}));
-    EXPECT_EQ(windowsOf(u"[End] >= @2"), (Windows{{{at(2), lastDate()}}}));
-    EXPECT_EQ(windowsOf(u"[Start] <= @2"), (Windows{{{firstDate, at(2, 0, 59)}}}));
-    EXPECT_EQ(windowsOf(u"[End] <= @2"), (Windows{{{firstDate, at(2, 0, 59)}}}));
+    EXPECT_EQ(windowsOf(u"[Start] >= @2"), (Windows{{{timeOfDay(2), lastDate()}}}));
+    EXPECT_EQ(windowsOf(u"[End] >= @2"), (Windows{{{timeOfDay(2), lastDate()}}}));
+    EXPECT_EQ(windowsOf(u"[Start] <= @2"), (Windows{{{firstDate, timeOfDay(2, 0, 59)}}}));
+    EXPECT_EQ(windowsOf(u"[End] <= @2"), (Windows{{{firstDate, timeOfDay(2, 0, 59)}}}));
 }
 
 TEST(Plan, OfAlternativesHasAWindowForEach)
 {
     EXPECT_EQ(windowsOf(u"[Start] = @5 or [Start] = @2"), (Windows{{hours(2, 2), hours(5, 5)}}));
-    EXPECT_EQ(
-        windowsOf(u"[Start] < @2 or [Start] > @5"), (Windows{{{firstDate, at(1, 59, 59)}, {at(5, 1), lastDate()}}}));
+    EXPECT_EQ(windowsOf(u"[Start] < @2 or [Start] > @5"),
+        (Windows{{{firstDate, timeOfDay(1, 59, 59)}, {timeOfDay(5, 1), lastDate()}}}));
 }
 
 TEST(Plan, JoinsWindowsThatTouch)
@@ -130,14 +130,14 @@ TEST(Plan, TurnsNegationsAround)
     EXPECT_EQ(windowsOf(u"not ([Start] < @2 or [Start] > @5)"), (Windows{{hours(2, 5)}}));
     EXPECT_EQ(windowsOf(u"not not [Start] = @2"), (Windows{{hours(2, 2)}}));
     EXPECT_EQ(windowsOf(u"not [Start] <> @2"), (Windows{{hours(2, 2)}}));
-    EXPECT_EQ(
-        windowsOf(u"not ([Start] >= @2 and [Subject] <> 'x') and not [Start] < @2"), (Windows{{{at(2), lastDate()}}}));
+    EXPECT_EQ(windowsOf(u"not ([Start] >= @2 and [Subject] <> 'x') and not [Start] < @2"),
+        (Windows{{{timeOfDay(2), lastDate()}}}));
 }
 
 TEST(Plan, CarriesTheBoundsAroundAlternativesIntoThem)
 {
     EXPECT_EQ(windowsOf(u"[Start] >= @2 and ([Start] < @3 or [Start] = @5)"),
-        (Windows{{{at(2), at(2, 59, 59)}, hours(5, 5)}}));
+        (Windows{{{timeOfDay(2), timeOfDay(2, 59, 59)}, hours(5, 5)}}));
 }
 
 // An item from 1 to 9 meets both windows and has no moment that the two share.
@@ -222,7 +222,7 @@ public:
     {
         ItemRecord item;
         const auto start = static_cast<std::int64_t>(random_() % (9 * 3600));
-        item.start = Date::fromSeconds(at(0).seconds() + start);
+        item.start = Date::fromSeconds(timeOfDay(0).seconds() + start);
         const std::int64_t lengths[] = {0, 30, 59, 60, 1800, 3600, 4 * 3600};
         item.end = Date::fromSeconds(item.start.seconds() + lengths[random_() % std::size(lengths)]);
         item.subject = random_() % 2 == 0 ? u"X" : u"y";

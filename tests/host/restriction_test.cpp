@@ -10,7 +10,7 @@
 namespace rf::host {
 namespace {
 
-Date at(int day, int hour, int minute = 0, int second = 0)
+Date moment(int day, int hour, int minute = 0, int second = 0)
 {
     return Date::fromFields({.year = 2001, .month = 2, .day = day, .hour = hour, .minute = minute, .second = second});
 }
@@ -35,7 +35,7 @@ protected:
     }
 
     std::vector<FieldDefinition> fields_{{u"OCID", 1}, {u"Guests", 3}, {u"Seen", 5}, {u"Paid", 6}, {u"Cost center", 1}};
-    ItemRecord item_ = booking(at(1, 9), at(1, 10));
+    ItemRecord item_ = booking(moment(1, 9), moment(1, 10));
     const PatternRegional english_{englishSettings()};
 };
 
@@ -67,31 +67,31 @@ protected:
 
 TEST_P(OverlapFilter, FindsWhatStartsInside)
 {
-    EXPECT_TRUE(matches(at(1, 9, 30), at(1, 10)));
-    EXPECT_TRUE(matches(at(1, 14, 4), at(1, 16)));
+    EXPECT_TRUE(matches(moment(1, 9, 30), moment(1, 10)));
+    EXPECT_TRUE(matches(moment(1, 14, 4), moment(1, 16)));
 }
 
 TEST_P(OverlapFilter, FindsWhatEndsInside)
 {
-    EXPECT_TRUE(matches(at(1, 8), at(1, 9, 31)));
-    EXPECT_TRUE(matches(at(1, 10), at(1, 14, 5)));
+    EXPECT_TRUE(matches(moment(1, 8), moment(1, 9, 31)));
+    EXPECT_TRUE(matches(moment(1, 10), moment(1, 14, 5)));
 }
 
 TEST_P(OverlapFilter, FindsWhatEncloses)
 {
-    EXPECT_TRUE(matches(at(1, 8), at(1, 16)));
-    EXPECT_TRUE(matches(at(1, 9), at(1, 14, 5)));
+    EXPECT_TRUE(matches(moment(1, 8), moment(1, 16)));
+    EXPECT_TRUE(matches(moment(1, 9), moment(1, 14, 5)));
 }
 
 TEST_P(OverlapFilter, LeavesOutWhatOnlyTouches)
 {
-    EXPECT_FALSE(matches(at(1, 8), at(1, 9, 30)));
-    EXPECT_FALSE(matches(at(1, 14, 5), at(1, 15)));
+    EXPECT_FALSE(matches(moment(1, 8), moment(1, 9, 30)));
+    EXPECT_FALSE(matches(moment(1, 14, 5), moment(1, 15)));
 }
 
 TEST_P(OverlapFilter, LeavesOutTheSameHoursOfOtherDays)
 {
-    EXPECT_FALSE(matches(at(2, 10), at(2, 11)));
+    EXPECT_FALSE(matches(moment(2, 10), moment(2, 11)));
     EXPECT_FALSE(matches(Date::fromFields({.year = 2001, .month = 1, .day = 2, .hour = 10}),
         Date::fromFields({.year = 2001, .month = 1, .day = 2, .hour = 11})));
 }
@@ -175,8 +175,9 @@ INSTANTIATE_TEST_SUITE_P(OfAField, EveryOperator,
             [](ItemRecord& item) { item.subject = u"mID"; }, [](ItemRecord& item) { item.subject = u"middle"; }},
         KindCase{"Number", u"Size", u"100", [](ItemRecord& item) { item.size = 99; },
             [](ItemRecord& item) { item.size = 100; }, [](ItemRecord& item) { item.size = 1000; }},
-        KindCase{"Date", u"Start", u"'2/1/2001 9:00 AM'", [](ItemRecord& item) { item.start = at(1, 8, 59, 59); },
-            [](ItemRecord& item) { item.start = at(1, 9); }, [](ItemRecord& item) { item.start = at(1, 9, 1); }},
+        KindCase{"Date", u"Start", u"'2/1/2001 9:00 AM'", [](ItemRecord& item) { item.start = moment(1, 8, 59, 59); },
+            [](ItemRecord& item) { item.start = moment(1, 9); },
+            [](ItemRecord& item) { item.start = moment(1, 9, 1); }},
         KindCase{"UserText", u"OCID", u"'b'", noChange,
             [](ItemRecord& item) {
                 item.userProperties = {{u"OCID", 1, u"B"}};
@@ -196,7 +197,7 @@ INSTANTIATE_TEST_SUITE_P(OfAField, EveryOperator,
                 item.userProperties = {{u"Seen", 5, Date{}}};
             },
             [](ItemRecord& item) {
-                item.userProperties = {{u"Seen", 5, at(1, 0)}};
+                item.userProperties = {{u"Seen", 5, moment(1, 0)}};
             },
             noChange}),
     [](const auto& kind) { return kind.param.name; });
@@ -273,7 +274,7 @@ TEST_F(RestrictionTest, TakesABuiltInFieldWithoutBrackets)
 
 TEST_F(RestrictionTest, LeavesTheSecondsOfBothSidesOut)
 {
-    const ItemRecord item = booking(at(1, 9, 0, 30), at(1, 10));
+    const ItemRecord item = booking(moment(1, 9, 0, 30), moment(1, 10));
     EXPECT_TRUE(matches(u"[Start] = '2/1/2001 9:00 AM'", item));
     EXPECT_FALSE(matches(u"[Start] > '2/1/2001 9:00 AM'", item));
     EXPECT_TRUE(matches(u"[Start] <= '2/1/2001 9:00 AM'", item));
@@ -292,7 +293,7 @@ TEST_F(RestrictionTest, ReadsADateWithAndWithoutItsHashes)
 
 TEST_F(RestrictionTest, ReadsATimeAloneAsThatOfTheZeroDate)
 {
-    const ItemRecord item = booking(Date::fromSeconds((14 * 60 + 5) * 60), at(1, 10));
+    const ItemRecord item = booking(Date::fromSeconds((14 * 60 + 5) * 60), moment(1, 10));
     EXPECT_TRUE(matches(u"[Start] = \"# 14:05 PM #\"", item));
     EXPECT_FALSE(matches(u"[Start] = \"# 14:05 PM #\""));
 }

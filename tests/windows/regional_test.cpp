@@ -1,5 +1,6 @@
 #include "windows/regional.h"
 
+#include "basic/amount.h"
 #include "basic/error_of.h"
 #include "windows/win32.h"
 
@@ -10,6 +11,7 @@
 namespace rf::native {
 namespace {
 
+using test::amount;
 using test::errorOf;
 
 constexpr std::uint32_t german = 1031;
@@ -25,8 +27,6 @@ protected:
     const std::unique_ptr<Regional> english_ = makeRegional(english);
     const std::unique_ptr<Regional> swedish_ = makeRegional(swedish);
 };
-
-Currency amount(std::int64_t tenThousandths) { return Currency::fromTenThousandths(tenThousandths); }
 
 TEST_F(AutomationRegional, ReadsNumbersInTheFormOfTheLocale)
 {
