@@ -115,16 +115,26 @@ elif step "build for Windows, 64 bits" build windows-x86_64; then
     fi
 fi
 
+# Two rows start the program, which knows and ends the others of its user: they run apart, or one after the other.
+alone=
+scripts/alone.sh && alone=scripts/alone.sh
+
 echo "== tests"
 testing=$SECONDS
-if [ $linux = yes ]; then
-    run_tests linux "" build/linux-asan/bin unit_tests object_model_tests &
-    run_tests linux "" build/linux-asan/bin native_tests system_tests &
-fi
-if [ $wine = yes ]; then
-    run_tests wine scripts/wine.sh build/windows-x86_64/bin \
-        unit_tests.exe object_model_tests.exe native_tests.exe system_tests.exe &
-fi
+linux_tests() { [ $linux = no ] || run_tests linux "$alone" build/linux-asan/bin "$@"; }
+wine_tests() { [ $wine = no ] || run_tests wine scripts/wine.sh build/windows-x86_64/bin "$@"; }
+{
+    linux_tests native_tests
+    [ -n "$alone" ] || linux_tests system_tests
+} &
+{
+    [ -z "$alone" ] || linux_tests system_tests
+    linux_tests object_model_tests
+} &
+{
+    linux_tests unit_tests
+    wine_tests unit_tests.exe object_model_tests.exe native_tests.exe system_tests.exe
+} &
 wait
 echo "   done in $((SECONDS - testing)) s"
 if [ $linux = yes ]; then
