@@ -6,6 +6,8 @@
 #include "orders/frm_orders2k_position.h"
 #include "storage/settings.h"
 
+#include <algorithm>
+
 namespace rf::orders {
 
 frmOrders2K::frmOrders2K(Session& session, outlook::AppointmentItem item)

@@ -3,6 +3,8 @@
 #include "app/session.h"
 #include "automation/conversion.h"
 
+#include <algorithm>
+
 namespace rf::orders {
 
 using automation::Array;

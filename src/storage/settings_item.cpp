@@ -5,6 +5,8 @@
 #include "storage/outlook_value.h"
 #include "storage/settings_keys.h"
 
+#include <algorithm>
+
 namespace rf {
 
 namespace {

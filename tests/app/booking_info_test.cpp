@@ -9,6 +9,8 @@
 #include "storage/outlook_value.h"
 #include "support/session_fixture.h"
 
+#include <algorithm>
+
 namespace rf {
 namespace {
 

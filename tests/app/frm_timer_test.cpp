@@ -2,6 +2,8 @@
 
 #include "support/recording_toolkit.h"
 
+#include <gtest/gtest.h>
+
 namespace rf {
 namespace {
 

@@ -230,8 +230,8 @@ TEST_F(CallsOfTheRules, OfAnAddedItemAreNoMoreThanItNeeds)
     cAppItems& watcher = watch();
     run([&] { watcher.ouisItems_ItemAdd(faulty(item)); });
     EXPECT_EQ(stored(all).size(), 1U);
-    // Four of them ask whether the link identifier is free.
-    EXPECT_EQ(fault->uses, 76);
+    // One of them asks whether the link identifier is free.
+    EXPECT_EQ(fault->uses, 71);
 }
 
 TEST_F(CallsOfTheRules, OfAnItemThatDidNotMoveAreNoMoreThanItNeeds)
@@ -243,7 +243,7 @@ TEST_F(CallsOfTheRules, OfAnItemThatDidNotMoveAreNoMoreThanItNeeds)
     watcher.ouisItems_ItemChange(item);
     EXPECT_EQ(stored(all).size(), 1U);
     run([&] { watcher.ouisItems_ItemChange(faulty(item)); });
-    EXPECT_EQ(fault->uses, 47);
+    EXPECT_EQ(fault->uses, 45);
 }
 
 /// The same calls, each with the item deleted by somebody else just before it.

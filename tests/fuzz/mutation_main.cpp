@@ -1,6 +1,7 @@
 // Drives a fuzz target without libFuzzer: replays its first inputs, then random mutations of them until the time is up.
 // Takes those of libFuzzer's options that scripts/fuzz.sh uses. The input that ends the program is left in a file.
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <csignal>

@@ -12,6 +12,7 @@
 
 #include "fuzz_input.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 // Everything that the program reads out of the host's items has been written by somebody else: by other versions, by

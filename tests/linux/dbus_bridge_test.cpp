@@ -1,6 +1,7 @@
 #include "dbus_fixture.h"
 
 #include <QDBusMessage>
+#include <algorithm>
 #include <limits>
 
 namespace rf::native::dbus {

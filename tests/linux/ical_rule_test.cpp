@@ -2,6 +2,7 @@
 
 #include "host/ical_rule.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include <chrono>

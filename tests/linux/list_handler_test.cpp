@@ -1,5 +1,7 @@
 #include "orders_fixture.h"
 
+#include <algorithm>
+
 namespace rf::orders {
 namespace {
 

@@ -5,6 +5,8 @@
 #include "outlook/spreadsheet.h"
 #include "support/session_fixture.h"
 
+#include <algorithm>
+
 namespace rf::test {
 
 /// The class name of a generation's spreadsheets.

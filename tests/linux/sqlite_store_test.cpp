@@ -3,6 +3,8 @@
 #include "host/store/store_suite.h"
 #include "linux/sqlite_fixture.h"
 
+#include <algorithm>
+
 namespace rf::host::test {
 namespace {
 

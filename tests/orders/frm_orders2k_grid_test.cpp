@@ -1,6 +1,8 @@
 #include "orders/noting_spreadsheet.h"
 #include "orders/orders_form_fixture.h"
 
+#include <algorithm>
+
 namespace rf::orders {
 namespace {
 

@@ -206,7 +206,7 @@ TEST_F(OutlookFolder, AsksForTheFolderAndItsNameOnce)
     const auto reference = referenceTo(roomId);
     putFaultBeforeHost();
     static_cast<void>(reference.GetFolder());
-    EXPECT_EQ(fault->uses, 3) << "GetNamespace, GetFolderFromID, Name";
+    EXPECT_EQ(fault->uses, 2) << "GetFolderFromID, Name";
 }
 
 TEST_F(OutlookFolder, IsStoredInFourTexts)

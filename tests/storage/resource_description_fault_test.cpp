@@ -2,6 +2,8 @@
 
 #include "storage/storage_fixture.h"
 
+#include <algorithm>
+
 namespace rf {
 namespace {
 

@@ -6,6 +6,8 @@
 #include "support/session_fixture.h"
 #include "support/transport.h"
 
+#include <algorithm>
+
 namespace rf::test {
 
 /// An installation with one resource calendar, and a program that is attached to it and knows its root folder.

@@ -3,6 +3,8 @@
 #include "storage/settings_fixture.h"
 #include "storage/settings_keys.h"
 
+#include <algorithm>
+
 namespace rf::test {
 
 /// How the program and the settings post get on with each other, over any way between program and host.

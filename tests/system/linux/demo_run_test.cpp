@@ -2,6 +2,7 @@
 
 #include "expected_bookings.h"
 
+#include <algorithm>
 #include <atomic>
 #include <random>
 #include <set>
