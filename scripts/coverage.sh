@@ -26,28 +26,36 @@ if ! { cmake --preset coverage && cmake --build --preset coverage --target unit_
     exit 1
 fi
 
-# A row of gcovr's table is a file, its lines and those that were reached, then shares of lines, branches, functions.
-gcovr --root . --object-directory build/coverage --filter 'src/(storage|orders|booking)/' --csv 2>> "$log" |
-    awk -F, -v bound="$bound" '
-        NR > 1 {
-            split($1, part, "/")
-            folder = part[1] "/" part[2]
-            lines[folder] += $2
-            reached[folder] += $3
-            if ($2 > 0 && 100 * $3 < bound * $2)
-                weak = weak sprintf("   %-44s %6.1f %%\n", $1, 100 * $3 / $2)
+echo "Reading the counters"
+table=build/logs/coverage.csv
+if ! gcovr --root . --object-directory build/coverage --filter 'src/(storage|orders|booking)/' -j "$(nproc)" \
+    --csv "$table" build/coverage >> "$log" 2>&1; then
+    tail -n 40 "$log"
+    echo "The counters cannot be read." >&2
+    exit 1
+fi
+
+# A row of the table is a file, its lines and those that were reached, then shares of lines, branches, functions.
+awk -F, -v bound="$bound" '
+    NR > 1 {
+        split($1, part, "/")
+        folder = part[1] "/" part[2]
+        lines[folder] += $2
+        reached[folder] += $3
+        if ($2 > 0 && 100 * $3 < bound * $2)
+            weak = weak sprintf("   %-44s %6.1f %%\n", $1, 100 * $3 / $2)
+    }
+    END {
+        for (folder in lines) {
+            low = 100 * reached[folder] < bound * lines[folder]
+            missed += low
+            printf "%-44s %5d of %5d lines %6.1f %%  %s\n", folder, reached[folder], lines[folder], 100 * reached[folder] / lines[folder], low ? "BELOW " bound : "met" | "sort"
+            found = 1
         }
-        END {
-            for (folder in lines) {
-                low = 100 * reached[folder] < bound * lines[folder]
-                missed += low
-                printf "%-44s %5d of %5d lines %6.1f %%  %s\n", folder, reached[folder], lines[folder], 100 * reached[folder] / lines[folder], low ? "BELOW " bound : "met" | "sort"
-                found = 1
-            }
-            close("sort")
-            if (weak != "")
-                printf "Below %d %% by themselves:\n%s", bound, weak
-            if (!found)
-                print "nothing was measured"
-            exit missed > 0 || !found
-        }'
+        close("sort")
+        if (weak != "")
+            printf "Below %d %% by themselves:\n%s", bound, weak
+        if (!found)
+            print "nothing was measured"
+        exit missed > 0 || !found
+    }' "$table"

@@ -324,12 +324,12 @@ void checkSettings(BareSession& program, const Input& input)
 }
 
 /// Runs a check in a program of its own.
-template <auto Check>
+template <auto run>
 void inProgram(const Input& input)
 {
     BareSession program{germanSettings()};
     program.session.randomNumbers = steps();
-    Check(program, input);
+    run(program, input);
 }
 
 /// The first unit of an input says which of them reads the rest: "a" the first.

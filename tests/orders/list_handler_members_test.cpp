@@ -166,8 +166,9 @@ TEST_F(ListHandlerMembers, NameTheKindOfAValueInTheTrace)
 {
     using automation::Variant;
     const std::pair<Variant, TextView> kinds[]{{Variant{}, u"Empty"}, {Variant{true}, u"Boolean"},
-        {Variant{std::int16_t{1}}, u"Integer"}, {Variant{1.5}, u"Double"},
-        {Variant{Currency::fromInteger(2)}, u"Currency"}, {Variant{Date{1}}, u"Date"}, {Variant{u"x"}, u"String"},
+        {Variant{std::uint8_t{1}}, u"Byte"}, {Variant{std::int16_t{1}}, u"Integer"}, {Variant{1}, u"Long"},
+        {Variant{1.5F}, u"Single"}, {Variant{1.5}, u"Double"}, {Variant{Currency::fromInteger(2)}, u"Currency"},
+        {Variant{Date{1}}, u"Date"}, {Variant{u"x"}, u"String"},
         {Variant{automation::Array::list({1, 2})}, u"Variant()"}};
     for (const auto& [value, kind] : kinds) {
         usesOf([&written = value](auto& it) { it.SetValue(u"A1", written); });

@@ -207,6 +207,30 @@ TEST_F(AddResource, IsUnloadedWhenItsWindowIsClosed)
     EXPECT_FALSE(isOpen());
 }
 
+TEST_F(AddResource, HasNothingOnTheScreenBeforeItIsLoaded)
+{
+    frmAddResource form{session};
+    form.show();
+    form.showModal();
+    form.setFocus();
+    form.unload();
+    EXPECT_EQ(form.caption(), u"");
+    EXPECT_EQ(form.window(), 0);
+    EXPECT_TRUE(toolkit.formWindows.empty());
+}
+
+TEST_F(AddResource, IsShownBesideTheProgramToo)
+{
+    const auto& window = open();
+    const auto form = session.forms.find(frmAddResource::formName);
+    form->show();
+    form->setFocus();
+    EXPECT_TRUE(window.isShown());
+    EXPECT_EQ(form->window(), window.handle());
+    form->unload();
+    EXPECT_FALSE(window.isShown());
+}
+
 TEST_F(AddResource, IsShownUntilItIsClosed)
 {
     bool shown = false;

@@ -56,6 +56,27 @@ TEST_F(RoomViewer, IsUnloadedWhenItsWindowIsClosed)
     EXPECT_TRUE(toolkit.formWindows.empty());
 }
 
+TEST_F(RoomViewer, HasNothingOnTheScreenBeforeItIsLoaded)
+{
+    frmRoom room{session, u"/home/jane/room one.html"};
+    room.show();
+    room.setFocus();
+    room.unload();
+    EXPECT_EQ(room.caption(), u"");
+    EXPECT_EQ(room.window(), 0);
+    EXPECT_EQ(room.strRoomPage(), u"/home/jane/room one.html");
+    EXPECT_TRUE(toolkit.formWindows.empty());
+}
+
+TEST_F(RoomViewer, IsKnownByItsWindow)
+{
+    const auto& window = show();
+    const auto room = session.forms.find(frmRoom::formName);
+    room->setFocus();
+    EXPECT_TRUE(window.isShown());
+    EXPECT_EQ(room->window(), window.handle());
+}
+
 TEST_F(RoomViewer, StaysEmptyWhereThereIsNoBrowser)
 {
     toolkit.components.clear();
