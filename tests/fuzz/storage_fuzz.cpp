@@ -9,6 +9,7 @@
 #include "storage/outlook_value.h"
 #include "storage/settings.h"
 #include "support/bare_session.h"
+#include "support/program_ended.h"
 
 #include "fuzz_input.h"
 
