@@ -248,8 +248,9 @@ void callsToAcceptSave(benchmark::State& state)
         program.demandEverything();
         countCalls(state, program, program.newBooking(Date::fromFields({2024, 2, 3, 9, 0, 0})), [&](const auto& item) {
             BookingItem booking{item};
+            CopyCalendars copies{program.session};
             if (fncValidateBooking(program.session, booking).empty())
-                copyBooking(program.session, booking, acceptBooking(program.session, booking), u"Room 1");
+                copies.copyBooking(booking, acceptBooking(program.session, booking, copies), u"Room 1");
         });
     }
 }
@@ -274,7 +275,8 @@ void callsOfItemChange(benchmark::State& state)
         program.demandEverything();
         const auto item = program.newBooking(Date::fromFields({2024, 2, 3, 9, 0, 0}));
         BookingItem booking{item};
-        copyBooking(program.session, booking, acceptBooking(program.session, booking), u"Room 1");
+        CopyCalendars copies{program.session};
+        copies.copyBooking(booking, acceptBooking(program.session, booking, copies), u"Room 1");
         item.save();
         cAppItems watcher{program.session};
         watcher.setFolderName(u"Room 1");

@@ -69,16 +69,17 @@ std::optional<Move> moveOf(Session& session, BookingItem& booking, PendingError&
     });
 }
 
-/// Remembers a time that differs. Whether anything was written: only that is saved, so the event that the save raises
-/// finds nothing to do, whatever the host refuses.
-bool remember(const Move& move, BookingItem& booking, PendingError& errors)
+/// Remembers a time that differs. Whether anything of it can be read back: only that is saved, so the event that the
+/// save raises finds nothing to do, whatever the host refuses, and whatever a property of another type makes of the
+/// time.
+bool remember(Session& session, const Move& move, BookingItem& booking, PendingError& errors)
 {
-    bool isChanged = false;
-    if (move.startDiffers())
-        isChanged |= succeeds(errors, [&] { rememberStart(booking); });
-    if (move.durationDiffers())
-        isChanged |= succeeds(errors, [&] { rememberDuration(booking); });
-    return isChanged;
+    const bool writesStart = move.startDiffers() && succeeds(errors, [&] { rememberStart(booking); });
+    const bool writesDuration = move.durationDiffers() && succeeds(errors, [&] { rememberDuration(booking); });
+    if (!writesStart && !writesDuration)
+        return false;
+    const auto reread = errors.attempt([&] { return std::optional{Move{move.now, acceptedTime(session, booking)}}; });
+    return reread && ((writesStart && !reread->startDiffers()) || (writesDuration && !reread->durationDiffers()));
 }
 
 /// Puts a booking back to where it was accepted. Whether anything was moved. What is where it was is not assigned
@@ -165,7 +166,8 @@ void cAppItems::ouisItems_ItemChange(const outlook::Item& item)
         return;
     const bool isValid = fncValidateBooking(session_, booking).empty();
     const auto move = moveOf(session_, booking, errors);
-    const bool isChanged = move && (isValid ? remember(*move, booking, errors) : putBack(*move, booking, errors));
+    const bool isChanged
+        = move && (isValid ? remember(session_, *move, booking, errors) : putBack(*move, booking, errors));
     if (isValid && wantsCopies(session_)) {
         CopyCalendars copies{session_};
         copy(booking, errors.attempt([&] { return linkIdentifier(session_, booking); }), copies);

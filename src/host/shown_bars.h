@@ -32,8 +32,8 @@ struct ShownBar {
     friend bool operator==(const ShownBar&, const ShownBar&) = default;
 };
 
-/// The visible bars with their visible controls, in their order; a bar on which everything is hidden is left out. The text of a combo is none of it: it changes while a
-/// person types, and the bar stays as it is.
+/// The visible bars with their visible controls, in their order; a bar on which everything is hidden is left out. The
+/// text of a combo is none of it: it changes while a person types, and the bar stays as it is.
 [[nodiscard]] std::vector<ShownBar> shownBars(const CommandBars& bars);
 
 } // namespace rf::host

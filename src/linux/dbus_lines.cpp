@@ -95,7 +95,7 @@ Lines::Invitation Lines::invite(const QString& process)
         listen();
     if (!server_->isConnected())
         return {};
-    const Invitation invitation{server_->address(), QRandomGenerator::system()->generate64()};
+    Invitation invitation{server_->address(), QRandomGenerator::system()->generate64()};
     std::erase_if(invited_, [&](const auto& entry) { return entry.second == process; });
     invited_.emplace(invitation.word, process);
     return invitation;

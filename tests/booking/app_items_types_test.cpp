@@ -99,5 +99,21 @@ TEST_F(AppItemsOverOtherTypes, LeaveAnAddedItemAloneThatHasAnOrganizerOfAnyType)
     EXPECT_EQ(host::entryIdOf(only(room).id), item.entryId());
 }
 
+TEST_F(AppItemsOverOtherTypes, EndTheRecursionWhateverATypeMakesOfATime)
+{
+    for (const auto type :
+        {UserPropertyType::Text, UserPropertyType::Number, UserPropertyType::DateTime, UserPropertyType::YesNo}) {
+        for (const TextView name : {u"OriginalStartDate", u"OriginalDuration"}) {
+            begin();
+            const auto item = newAppointment(u"Board", at(9), 60);
+            static_cast<void>(item.userProperties().add(name, type, false));
+            static_cast<void>(fncAddBookingProps(item));
+            item.save();
+            move(item, at(14), 90);
+            EXPECT_LE(savesAfter(item), 1) << toUtf8(name) << " as type " << outlook::code(type);
+        }
+    }
+}
+
 } // namespace
 } // namespace rf

@@ -43,11 +43,13 @@ public:
 
 /// A program with the host of this process, both as a test sets them up.
 class SessionTest : public ::testing::Test {
-protected:
-    SessionTest();
+public:
     SessionTest(const SessionTest&) = delete;
     SessionTest& operator=(const SessionTest&) = delete;
     ~SessionTest() override;
+
+protected:
+    SessionTest();
 
     /// Makes a host that the program can attach to, with the mailbox of a person.
     host::Application& runHost(const Text& version = u"11.0.8169", const Text& mailbox = u"Mailbox - Jane Doe");
