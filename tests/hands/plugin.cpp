@@ -12,7 +12,7 @@ class HandsPlugin final : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "hands.json")
 
 public:
-    QObject* create(const QString& /*key*/, const QString& /*specification*/) override
+    QObject* create(const QString& /*key*/, const QString& /*arguments*/) override
     {
         const QString folder = qEnvironmentVariable("RF_HANDS");
         if (folder.isEmpty())
