@@ -75,13 +75,12 @@ protected:
         elsewhere.save(item);
     }
     /// Drops entries behind the day that is shown until the program makes a booking of one.
-    [[nodiscard]] bool isWatched() const
+    [[nodiscard]] bool isWatched()
     {
         constexpr int hoursADay = 24;
-        int tries = 0;
         return within(30s, [&] {
-            const Text subject = u"Dropped " + decimal(++tries);
-            drop(subject, tries * hoursADay);
+            const Text subject = u"Dropped " + decimal(++dropped_);
+            drop(subject, dropped_ * hoursADay);
             return within(500ms, [&] {
                 const auto item = itemIn(room1, subject);
                 return item && !propertyOf(*item, u"SafeOrganizer").empty();
@@ -107,6 +106,10 @@ protected:
             return atHost.look("explorer", "hours")["told"].toString().contains(subject);
         });
     }
+
+private:
+    /// How many entries were dropped.
+    int dropped_ = 0;
 };
 
 TEST_F(BookingByHand, IsMadeWithItsOrderAndBothCopies)
@@ -195,6 +198,8 @@ TEST_F(BookingByHand, EndsWithAnotherFolderAndBeginsAgainWithTheRoot)
     openNewAppointment();
     const auto first = programs();
     ASSERT_EQ(first.size(), 1U);
+    // It looks at the explorer last of all.
+    ASSERT_TRUE(isWatched());
     atHost.press("Escape");
     ASSERT_TRUE(atHost.misses("inspector"));
     atHost.clickEntry("explorer", "folders", "Inbox");
@@ -202,6 +207,7 @@ TEST_F(BookingByHand, EndsWithAnotherFolderAndBeginsAgainWithTheRoot)
     openRoom();
     openNewAppointment();
     EXPECT_NE(programs(), first);
+    ASSERT_TRUE(isWatched());
     atHost.close("inspector");
     ASSERT_TRUE(atHost.misses("inspector"));
     atHost.close("explorer");
