@@ -3,6 +3,9 @@
 #include "basic/clock.h"
 #include "host/store/store_fixture.h"
 
+#include <algorithm>
+#include <ranges>
+
 namespace rf::test {
 namespace {
 
@@ -78,12 +81,17 @@ protected:
     [[nodiscard]] bool isWatched()
     {
         constexpr int hoursADay = 24;
+        const int before = dropped_;
+        const auto subjectOf = [](int number) { return u"Dropped " + decimal(number); };
+        const auto isBooked = [&](int number) {
+            const auto item = itemIn(room1, subjectOf(number));
+            return item && !propertyOf(*item, u"SafeOrganizer").empty();
+        };
         return within(30s, [&] {
-            const Text subject = u"Dropped " + decimal(++dropped_);
-            drop(subject, dropped_ * hoursADay);
+            drop(subjectOf(++dropped_), dropped_ * hoursADay);
             return within(500ms, [&] {
-                const auto item = itemIn(room1, subject);
-                return item && !propertyOf(*item, u"SafeOrganizer").empty();
+                return std::ranges::any_of(
+                    std::views::iota(before, dropped_), [&](int number) { return isBooked(number + 1); });
             });
         });
     }
