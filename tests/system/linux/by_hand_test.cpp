@@ -88,7 +88,8 @@ protected:
             return item && !propertyOf(*item, u"SafeOrganizer").empty();
         };
         return within(30s, [&] {
-            drop(subjectOf(++dropped_), dropped_ * hoursADay);
+            ++dropped_;
+            drop(subjectOf(dropped_), dropped_ * hoursADay);
             return within(500ms, [&] {
                 return std::ranges::any_of(
                     std::views::iota(before, dropped_), [&](int number) { return isBooked(number + 1); });
