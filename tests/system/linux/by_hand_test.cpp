@@ -3,9 +3,6 @@
 #include "basic/clock.h"
 #include "host/store/store_fixture.h"
 
-#include <algorithm>
-#include <ranges>
-
 namespace rf::test {
 namespace {
 
@@ -87,13 +84,16 @@ protected:
             const auto item = itemIn(room1, subjectOf(number));
             return item && !propertyOf(*item, u"SafeOrganizer").empty();
         };
+        const auto isOneBooked = [&] {
+            for (int number = before + 1; number <= dropped_; ++number)
+                if (isBooked(number))
+                    return true;
+            return false;
+        };
         return within(30s, [&] {
             ++dropped_;
             drop(subjectOf(dropped_), dropped_ * hoursADay);
-            return within(500ms, [&] {
-                return std::ranges::any_of(
-                    std::views::iota(before, dropped_), [&](int number) { return isBooked(number + 1); });
-            });
+            return within(500ms, isOneBooked);
         });
     }
     [[nodiscard]] bool isAt(TextView path, TextView subject, int hour) const
