@@ -52,6 +52,7 @@ public:
         classes_.factories[Text{outlook::dictionaryClass}]
             = [] { return native::makeScriptingObject(outlook::dictionaryClass); };
         session.ouaApp = outlook::Application{automation::Object{host_}};
+        session.ounNameSpace = session.ouaApp.getNamespace();
         session.strUserName = u"Jane Doe";
         session.objSettings = std::make_unique<cSettings>(session);
     }
@@ -224,9 +225,12 @@ void countCalls(benchmark::State& state, Program& program, const outlook::Item& 
 {
     const auto fault = std::make_shared<test::Fault>();
     const auto application = program.session.ouaApp;
+    const auto nameSpace = program.session.ounNameSpace;
     program.session.ouaApp = outlook::Application{test::FaultyDispatch::wrap(application.object(), fault)};
+    program.session.ounNameSpace = outlook::NameSpace{test::FaultyDispatch::wrap(nameSpace.object(), fault)};
     step(outlook::AppointmentItem{test::FaultyDispatch::wrap(item.object(), fault)});
     program.session.ouaApp = application;
+    program.session.ounNameSpace = nameSpace;
     state.counters["calls"] = fault->uses;
 }
 

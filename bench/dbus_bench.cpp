@@ -115,11 +115,11 @@ struct Client {
         const QString name = busName(meterClass);
         while (!meter)
             try {
-                meter = Object{bridge->root(name, name)};
+                host = findOwner(*bridge, name);
+                meter = Object{bridge->root(host, name)};
             } catch (const RuntimeError&) {
                 usleep(10'000);
             }
-        host = findOwner(*bridge, name);
     }
 
     void callEmpty() const

@@ -130,9 +130,9 @@ validateBooking/100000|booking validated among 100,000: p99|p99_us|us|< 1000
 validateBooking/100000|    p50 against the bare search|ratio|times|< 2
 readBookingRecord|booking record with 50 order lines read|time|us|< 50
 callsToValidate|calls to the host, booking validated|calls||< 12
-callsToAcceptSave|calls to the host, save with both copies|calls||< 65
-callsOfItemAdd|calls to the host, one item added|calls||< 73
-callsOfItemChange|calls to the host, unchanged item changed|calls||< 48
+callsToAcceptSave|calls to the host, save with both copies|calls||< 64
+callsOfItemAdd|calls to the host, one item added|calls||< 72
+callsOfItemChange|calls to the host, unchanged item changed|calls||< 46
 openOrdersForm/99|orders form of 99 supplies opened|time|ms|< 200
 openOrdersForm/500|orders form of 500 supplies opened|time|ms|-
 typeQuantity/99|quantity typed until its total is shown|time|ms|< 20
