@@ -36,6 +36,15 @@ public:
     DWORD STDMETHODCALLTYPE MessagePending(HTASK, DWORD, DWORD) override { return PENDINGMSG_WAITDEFPROCESS; }
 };
 
+/// Answers what has come for this thread's objects and is still waiting. Wine hands a call that is left to whatever
+/// message loop runs next, without an apartment to take it in.
+void answerWaitingCalls()
+{
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0)
+        DispatchMessageW(&message);
+}
+
 } // namespace
 
 ComApartment::ComApartment()
@@ -50,6 +59,7 @@ ComApartment::~ComApartment()
 {
     static_cast<void>(CoRegisterMessageFilter(previousFilter_.get(), nullptr));
     previousFilter_ = {};
+    answerWaitingCalls();
     CoUninitialize();
 }
 
