@@ -199,14 +199,17 @@ void Bridge::openLine(const QString& process)
     if (lines_->leadTo(process))
         return;
     auto question = makeCall(process, rootPath(), QStringLiteral("Line"));
+    // A process that was asked by the name of its class answers by its own, which its objects go by.
+    QString owner;
     Lines::Invitation invitation;
     callAndWait(connection_, question, [&](const QDBusMessage& reply) {
+        owner = reply.service();
         if (reply.type() == QDBusMessage::ReplyMessage && reply.signature() == QLatin1StringView{"st"})
             invitation = {reply.arguments().at(0).toString(), reply.arguments().at(1).toULongLong()};
     });
     // Whose answer is another one has no lines, and is called over the bus.
-    if (lines_->follow(process, invitation))
-        watch(process);
+    if (lines_->follow(owner, invitation))
+        watch(owner);
 }
 
 std::shared_ptr<Dispatch> Bridge::ownRoot(const QString& name) const

@@ -67,6 +67,16 @@ TEST_F(DbusLine, CarriesCallsPastTheBus)
     EXPECT_EQ(boiler.call(u"Minus", 7, 5).integer32(), 2);
 }
 
+TEST_F(DbusLine, LeadsToAProcessThatWasCalledByTheNameOfItsClass)
+{
+    const Object first = boilerOf(*client);
+    const auto other = connect();
+    ASSERT_TRUE(other);
+    const Object boiler{other->root(busName(boilerClass), busName(boilerClass))};
+    const Stopped stopped{bus};
+    EXPECT_EQ(boiler.call(u"Minus", 7, 5).integer32(), 2);
+}
+
 TEST_F(DbusLine, CarriesEventsAndWhatTheyAnswerPastTheBus)
 {
     const Object boiler = boilerOf(*client);
