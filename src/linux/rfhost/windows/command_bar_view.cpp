@@ -37,7 +37,7 @@ Qt::ToolBarArea areaOf(std::int32_t position)
 
 } // namespace
 
-CommandBarView::CommandBarView(QMainWindow& window, std::function<void(std::int32_t id)> pressed)
+CommandBarView::CommandBarView(QMainWindow& window, std::function<void()> pressed)
     : window_(window)
     , pressed_(std::move(pressed))
 {
@@ -133,7 +133,7 @@ void CommandBarView::click(const std::shared_ptr<CommandBarControl>& control)
     later(&window_, [pressed = pressed_, control, window = QPointer{&window_}] {
         control->click();
         if (window != nullptr && pressed)
-            pressed(control->id());
+            pressed();
     });
 }
 

@@ -15,8 +15,8 @@ namespace rf::native {
 /// those the programs.
 class CommandBarView {
 public:
-    /// `pressed` hears of every button, by its id: no program answers the host's own ones. It may be empty.
-    CommandBarView(QMainWindow& window, std::function<void(std::int32_t id)> pressed);
+    /// `pressed` hears that a button was, after the programs have; it may be empty.
+    CommandBarView(QMainWindow& window, std::function<void()> pressed);
 
     /// Shows the bars as they are now. One that is as it was stays, and whatever a person does on it goes on.
     void refresh(const host::CommandBars& bars);
@@ -29,7 +29,7 @@ private:
     void refreshTexts();
 
     QMainWindow& window_;
-    std::function<void(std::int32_t)> pressed_;
+    std::function<void()> pressed_;
     std::vector<host::ShownBar> shown_;
     std::vector<QToolBar*> toolBars_;
     std::vector<std::pair<std::shared_ptr<host::CommandBarControl>, QComboBox*>> combos_;

@@ -26,7 +26,7 @@ ExplorerWindow::ExplorerWindow(const std::shared_ptr<host::Explorer>& explorer, 
     : PlacedWindow(explorer->place())
     , explorer_(explorer)
     , homePage_(homePage)
-    , bars_(*this, [this](std::int32_t) { tell(); })
+    , bars_(*this, [this] { tell(); })
     , tree_(new FolderTree)
     , content_(new QStackedWidget)
     , calendar_(new CalendarPane{model()})
