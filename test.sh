@@ -53,21 +53,43 @@ format() {
         xargs clang-format --dry-run --Werror
 }
 
-# run_tests SYSTEM RUNNER FOLDER PROGRAM...: runs test programs one after the other; what each ended with is kept beside
-# its log. Meant for the background: several such rows fill the time in which a test waits.
+wine_prefix() {
+    scripts/wine.sh wineboot --init &&
+        # A program that crashes says where and ends, instead of waiting for somebody to press a button.
+        scripts/wine.sh reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f
+}
+
+# run_tests SYSTEM PROGRAM [PART]: runs a test program, or the part of its tests with this number, counted from 0. What it
+# ended with is kept beside its log.
 run_tests() {
-    local system=$1 runner=$2 folder=$3 program
-    shift 3
-    for program in "$@"; do
-        timeout 600 $runner "$folder/$program" > "build/logs/$system-${program%.exe}.log" 2>&1
-        echo $? > "build/logs/$system-${program%.exe}.status"
+    local system=$1 program=$2 runner=$alone folder=build/linux-asan/bin log status
+    [ "$system" = linux ] || { runner=scripts/wine.sh folder=build/windows-x86_64/bin; }
+    log=build/logs/$system-${program%.exe}${3:+-$3}.log
+    [ $# -lt 3 ] || export GTEST_TOTAL_SHARDS=$parts GTEST_SHARD_INDEX=$3
+    timeout 600 $runner "$folder/$program" > "$log" 2>&1
+    status=$?
+    # A program that breaks off under Wine can end with 0.
+    grep -aq '^\[==========\] .* ran\.' "$log" || status="$status, before its last test"
+    echo "$status" > "${log%.log}.status"
+}
+
+# rows_of_tests: command lines for every test program there is, the longest first.
+rows_of_tests() {
+    local program part
+    # A prefix of Wine is for one program at a time.
+    [ $wine = no ] || echo 'for program in unit object_model native system; do run_tests wine ${program}_tests.exe; done'
+    [ $linux = yes ] || return
+    for program in system_tests native_tests; do
+        for ((part = 0; part < parts; part++)); do echo "run_tests linux $program $part"; done
     done
+    echo "run_tests linux unit_tests"
+    echo "run_tests linux object_model_tests"
 }
 
 # tell_failures SYSTEM LABEL: what the test programs of a system found.
 tell_failures() {
     local status log
-    for status in build/logs/"$1"-*_tests.status; do
+    for status in build/logs/"$1"-*_tests*.status; do
         [ -f "$status" ] && [ "$(cat "$status")" != 0 ] || continue
         log=${status%.status}.log
         grep -aE '^\[  FAILED|Failure|ERROR|runtime error' "$log" | head -n 40
@@ -93,7 +115,7 @@ summary() {
               if (names != "") print "  " label names }' > "build/logs/summary-$label.txt"
 }
 
-rm -f build/logs/*_tests.status build/logs/summary-*.txt
+rm -f build/logs/*_tests*.{status,log} build/logs/summary-*.txt
 linux=no
 wine=no
 if ! install_packages $build_packages $test_packages; then
@@ -109,43 +131,33 @@ if ! install_packages $windows_packages; then
     notes+=("skipped: every Windows test (install: apt-get install $windows_packages)")
 elif step "build for Windows, 64 bits" build windows-x86_64; then
     if install_packages $wine_packages; then
-        step "a Wine prefix" scripts/wine.sh wineboot --init && wine=yes
+        step "a Wine prefix" wine_prefix && wine=yes
     else
         notes+=("skipped: unit_tests, object_model_tests, native_tests and system_tests under Wine (install: apt-get install $wine_packages)")
     fi
 fi
 
-# Two rows start the program, which knows and ends the others of its user: they run apart, or one after the other.
-alone=
-scripts/alone.sh && alone=scripts/alone.sh
+# The tests start the program, which knows and ends the others of its user: they run apart, or one after the other.
+alone= rows=1
+scripts/alone.sh && alone=scripts/alone.sh rows=4
+parts=3
+export alone parts
+export -f run_tests
 
 echo "== tests"
 testing=$SECONDS
-linux_tests() { [ $linux = no ] || run_tests linux "$alone" build/linux-asan/bin "$@"; }
-wine_tests() { [ $wine = no ] || run_tests wine scripts/wine.sh build/windows-x86_64/bin "$@"; }
-{
-    linux_tests native_tests
-    [ -n "$alone" ] || linux_tests system_tests
-} &
-{
-    [ -z "$alone" ] || linux_tests system_tests
-    linux_tests object_model_tests
-} &
-{
-    linux_tests unit_tests
-    wine_tests unit_tests.exe object_model_tests.exe native_tests.exe system_tests.exe
-} &
-wait
+# Several at once fill the time in which a test waits.
+rows_of_tests | xargs -d '\n' -P "$rows" -n 1 bash -c
 echo "   done in $((SECONDS - testing)) s"
 if [ $linux = yes ]; then
     tell_failures linux Linux
-    summary Linux build/logs/linux-*_tests.log
+    summary Linux build/logs/linux-*_tests*.log
     step "nothing left among the temporary files" nothing_left
     step "random inputs, 10 s for each parser" scripts/fuzz.sh build/linux-asan 10
 fi
 if [ $wine = yes ]; then
     tell_failures wine Wine
-    summary Wine build/logs/wine-*_tests.log
+    summary Wine build/logs/wine-*_tests*.log
 fi
 
 if [ $slow = yes ]; then

@@ -82,11 +82,12 @@ private:
     pid_t id_ = 0;
 };
 
-/// The command by which this program runs one of its disabled tests, which play the other process.
+/// The command by which this program runs one of its disabled tests, which play the other process: also where it runs
+/// a part of its tests itself, which that test need not be one of.
 [[nodiscard]] inline std::vector<std::string> commandFor(const std::string& test)
 {
-    return {std::filesystem::read_symlink("/proc/self/exe"), "--gtest_also_run_disabled_tests", "--gtest_brief=1",
-        "--gtest_filter=" + test};
+    return {"env", "-u", "GTEST_TOTAL_SHARDS", std::filesystem::read_symlink("/proc/self/exe"),
+        "--gtest_also_run_disabled_tests", "--gtest_brief=1", "--gtest_filter=" + test};
 }
 
 /// A session bus for one test, which its processes inherit. It listens under an abstract name: a daemon that is killed
