@@ -86,8 +86,9 @@ private:
 /// a part of its tests itself, which that test need not be one of.
 [[nodiscard]] inline std::vector<std::string> commandFor(const std::string& test)
 {
-    return {"env", "-u", "GTEST_TOTAL_SHARDS", std::filesystem::read_symlink("/proc/self/exe"),
-        "--gtest_also_run_disabled_tests", "--gtest_brief=1", "--gtest_filter=" + test};
+    return {"env", "-u", "GTEST_TOTAL_SHARDS", "-u", "GTEST_SHARD_INDEX",
+        std::filesystem::read_symlink("/proc/self/exe"), "--gtest_also_run_disabled_tests", "--gtest_brief=1",
+        "--gtest_filter=" + test};
 }
 
 /// A session bus for one test, which its processes inherit. It listens under an abstract name: a daemon that is killed

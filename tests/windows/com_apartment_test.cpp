@@ -1,6 +1,6 @@
 #include "com_fixture.h"
 
-#include <atomic>
+#include <future>
 #include <thread>
 
 namespace rf::native::com {
@@ -17,7 +17,8 @@ bool isAnythingPosted()
 TEST(ComApartment, AnswersTheCallThatWaitsWhenItEnds)
 {
     const auto boiler = std::make_shared<Boiler>();
-    std::atomic<HRESULT> answer = E_PENDING;
+    HRESULT answer = E_PENDING;
+    std::promise<void> ended;
     std::thread caller;
     {
         const ComApartment apartment;
@@ -25,16 +26,19 @@ TEST(ComApartment, AnswersTheCallThatWaitsWhenItEnds)
         ASSERT_EQ(CoMarshalInterThreadInterfaceInStream(
                       IID_IDispatch, Bridge::make()->exportObject(boiler).get(), passed.put()),
             S_OK);
-        caller = std::thread{[&answer, stream = passed.detach()] {
+        caller = std::thread{[&, stream = passed.detach()] {
             const ComApartment own;
             ComPtr<IDispatch> dispatch;
             answer = CoGetInterfaceAndReleaseStream(stream, IID_IDispatch, dispatch.putVoid());
             UINT count = 0;
             if (dispatch)
                 answer = dispatch->GetTypeInfoCount(&count);
+            // What is given up while the apartment ends is a call too, which nobody would answer.
+            ended.get_future().wait();
         }};
         EXPECT_TRUE(isAnythingPosted());
     }
+    ended.set_value();
     caller.join();
     EXPECT_EQ(answer, S_OK);
 }
