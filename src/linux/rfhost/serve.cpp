@@ -35,7 +35,11 @@ public:
     {
         socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends_.data());
         notifier_ = std::make_unique<QSocketNotifier>(ends_[1], QSocketNotifier::Read);
-        QObject::connect(notifier_.get(), &QSocketNotifier::activated, [end = std::move(end)] { end(); });
+        QObject::connect(notifier_.get(), &QSocketNotifier::activated, [end = std::move(end)] {
+            // Whatever stays there to be read would come again and again until the program has ended.
+            if (char signalled = 0; read(ends_[1], &signalled, 1) == 1)
+                end();
+        });
         for (const int signal : {SIGINT, SIGTERM, SIGHUP})
             std::signal(signal, &EndSignals::handle);
     }
@@ -141,7 +145,8 @@ int serve(const host::CommandContext& context, const ServeOptions& options)
     application->explorers().setFolderShown([&](const host::FolderRecord& folder) { homePage.folderShown(folder); });
     const auto end = [&] {
         application->quit();
-        QCoreApplication::quit();
+        // Without asking the windows, one of which may have changes that nobody is there to save.
+        QCoreApplication::exit();
     };
     if (auto* const shown = windows.onScreen()) {
         shown->setHomePage(&homePage);

@@ -224,6 +224,26 @@ TEST_F(BookingByHand, EndsWithAnotherFolderAndBeginsAgainWithTheRoot)
     EXPECT_EQ(host->waitForEnd(5s), 0);
 }
 
+TEST_F(BookingByHand, DoesNotKeepAHostThatIsToldToEnd)
+{
+    openRoom();
+    beginBooking("Lecture", 9);
+    host->terminate();
+    EXPECT_EQ(host->waitForEnd(5s), 0);
+    EXPECT_TRUE(within(5s, [&] { return programs().empty(); }));
+}
+
+TEST_F(BookingByHand, DoesNotKeepAHostThatIsToldToEndWhileItAsksWhetherToSave)
+{
+    openRoom();
+    beginBooking("Lecture", 9);
+    atHost.close("inspector");
+    ASSERT_TRUE(atHost.sees("askToSave"));
+    host->terminate();
+    EXPECT_EQ(host->waitForEnd(5s), 0);
+    EXPECT_TRUE(within(5s, [&] { return programs().empty(); }));
+}
+
 TEST_F(BookingByHand, GoesWithAHostThatIsKilledWhileTheOrdersFormIsOpen)
 {
     openRoom();
