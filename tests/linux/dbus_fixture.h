@@ -24,15 +24,19 @@ using test::unraisedEvents;
 
 inline constexpr TextView boilerClass = u"Test.Boiler";
 
-/// Delivers what arrives until the condition holds; false when it does not in time.
+/// Delivers what arrives until the condition holds, which is asked every few milliseconds; false when it does not in
+/// time. Asking another process is an event here too, so that asking after each one would never rest.
 template <class Condition>
 [[nodiscard]] bool runUntil(Condition&& condition, std::chrono::seconds limit = std::chrono::seconds{30})
 {
-    const auto end = std::chrono::steady_clock::now() + limit;
+    using std::chrono::steady_clock;
+    constexpr std::chrono::milliseconds pause{5};
+    const auto end = steady_clock::now() + limit;
     QTimer waker;
-    waker.start(5);
-    while (!condition() && std::chrono::steady_clock::now() < end)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    waker.start(pause);
+    while (!condition() && steady_clock::now() < end)
+        for (const auto next = steady_clock::now() + pause; steady_clock::now() < next;)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     return condition();
 }
 

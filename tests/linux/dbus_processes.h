@@ -86,7 +86,7 @@ private:
 /// a part of its tests itself, which that test need not be one of.
 [[nodiscard]] inline std::vector<std::string> commandFor(const std::string& test)
 {
-    return {"env", "-u", "GTEST_TOTAL_SHARDS", "-u", "GTEST_SHARD_INDEX",
+    return {"/usr/bin/env", "-u", "GTEST_TOTAL_SHARDS", "-u", "GTEST_SHARD_INDEX",
         std::filesystem::read_symlink("/proc/self/exe"), "--gtest_also_run_disabled_tests", "--gtest_brief=1",
         "--gtest_filter=" + test};
 }
