@@ -133,12 +133,12 @@ TEST(OverlapFilter, KeepsTheSpacingBetweenClauses)
 /// Every kind of system at the other end: what is written here must be read there as the same instant.
 class OverlapFilterReadBack : public ::testing::TestWithParam<test::Locale> {
 protected:
-    [[nodiscard]] bool overlaps(Date startAt, Date endAt, Date itemStart, Date itemEnd) const
+    [[nodiscard]] static bool finds(const host::Restriction& overlap, Date itemStart, Date itemEnd)
     {
         host::ItemRecord item;
         item.start = itemStart;
         item.end = itemEnd;
-        return host::Restriction::parse(fncMakeOverlapFilter(regional, startAt, endAt), {}, regional).matches(item);
+        return overlap.matches(item);
     }
 
     const PatternRegional regional{GetParam().settings};
@@ -151,12 +151,14 @@ TEST_P(OverlapFilterReadBack, IsTheSameInstantToTheMinuteOnEveryDayAndAtEveryHou
         for (int hour = 0; hour < 24; ++hour) {
             const Date from = day.plusMinutes(60LL * hour + 5);
             const Date to = from.plusMinutes(60);
-            SCOPED_TRACE(toUtf8(fncMakeOverlapFilter(regional, from, to)));
-            EXPECT_TRUE(overlaps(from, to, from, to));
-            EXPECT_TRUE(overlaps(from, to, from.plusMinutes(59), to.plusMinutes(59)));
-            EXPECT_TRUE(overlaps(from, to, from.plusMinutes(-59), from.plusMinutes(1)));
-            EXPECT_FALSE(overlaps(from, to, to, to.plusMinutes(60)));
-            EXPECT_FALSE(overlaps(from, to, from.plusMinutes(-60), from));
+            const Text filter = fncMakeOverlapFilter(regional, from, to);
+            SCOPED_TRACE(toUtf8(filter));
+            const auto overlap = host::Restriction::parse(filter, {}, regional);
+            EXPECT_TRUE(finds(overlap, from, to));
+            EXPECT_TRUE(finds(overlap, from.plusMinutes(59), to.plusMinutes(59)));
+            EXPECT_TRUE(finds(overlap, from.plusMinutes(-59), from.plusMinutes(1)));
+            EXPECT_FALSE(finds(overlap, to, to.plusMinutes(60)));
+            EXPECT_FALSE(finds(overlap, from.plusMinutes(-60), from));
         }
 }
 
