@@ -62,12 +62,18 @@ wine_prefix() {
 # run_tests SYSTEM PROGRAM [PART]: runs a test program, or the part of its tests with this number, counted from 0. What it
 # ended with is kept beside its log.
 run_tests() {
-    local system=$1 program=$2 runner=$alone folder=build/linux-asan/bin log status
-    [ "$system" = linux ] || { runner=scripts/wine.sh folder=build/windows-x86_64/bin; }
+    local system=$1 program=$2 runner=$alone folder=build/linux-asan/bin limit=600 log status
+    [ "$system" = linux ] || { runner=scripts/wine.sh folder=build/windows-x86_64/bin limit=180; }
     log=build/logs/$system-${program%.exe}${3:+-$3}.log
     [ $# -lt 3 ] || export GTEST_TOTAL_SHARDS=$parts GTEST_SHARD_INDEX=$3
-    timeout 600 $runner "$folder/$program" > "$log" 2>&1
+    timeout $limit $runner "$folder/$program" > "$log" 2>&1
     status=$?
+    if [ "$system $status" = "wine 124" ]; then
+        # On a busy machine Wine now and then loses a call between two processes, and both wait for ever.
+        mv "$log" "${log%.log}.stood-still"
+        timeout $limit $runner "$folder/$program" > "$log" 2>&1
+        status=$?
+    fi
     # A program that breaks off under Wine can end with 0.
     grep -aq '^\[==========\] .* ran\.' "$log" || status="$status, before its last test"
     echo "$status" > "${log%.log}.status"
@@ -79,10 +85,10 @@ rows_of_tests() {
     # A prefix of Wine is for one program at a time.
     [ $wine = no ] || echo 'for program in unit object_model native system; do run_tests wine ${program}_tests.exe; done'
     [ $linux = yes ] || return
-    for program in system_tests native_tests; do
-        for ((part = 0; part < parts; part++)); do echo "run_tests linux $program $part"; done
-    done
     echo "run_tests linux unit_tests"
+    for ((part = 0; part < parts; part++)); do
+        for program in system_tests native_tests; do echo "run_tests linux $program $part"; done
+    done
     echo "run_tests linux object_model_tests"
 }
 
@@ -115,7 +121,7 @@ summary() {
               if (names != "") print "  " label names }' > "build/logs/summary-$label.txt"
 }
 
-rm -f build/logs/*_tests*.{status,log} build/logs/summary-*.txt
+rm -f build/logs/*_tests*.{status,log,stood-still} build/logs/summary-*.txt
 linux=no
 wine=no
 if ! install_packages $build_packages $test_packages; then
@@ -139,7 +145,7 @@ fi
 
 # The tests start the program, which knows and ends the others of its user: they run apart, or one after the other.
 alone= rows=1
-scripts/alone.sh && alone=scripts/alone.sh rows=4
+scripts/alone.sh && alone=scripts/alone.sh rows=5
 parts=3
 export alone parts
 export -f run_tests
@@ -158,6 +164,9 @@ fi
 if [ $wine = yes ]; then
     tell_failures wine Wine
     summary Wine build/logs/wine-*_tests*.log
+    for log in build/logs/wine-*_tests.stood-still; do
+        [ ! -f "$log" ] || notes+=("run again, because it stood still under Wine (log: $log)")
+    done
 fi
 
 if [ $slow = yes ]; then
