@@ -69,7 +69,7 @@ run_tests() {
     timeout $limit $runner "$folder/$program" > "$log" 2>&1
     status=$?
     if [ "$system $status" = "wine 124" ]; then
-        # On a busy machine Wine now and then loses a call between two processes, and both wait for ever.
+        # Two processes that call each other were seen to wait for ever there, once, on a busy machine.
         mv "$log" "${log%.log}.stood-still"
         timeout $limit $runner "$folder/$program" > "$log" 2>&1
         status=$?
