@@ -228,9 +228,7 @@ TEST_F(BookingByHand, DoesNotKeepAHostThatIsToldToEnd)
 {
     openRoom();
     beginBooking("Lecture", 9);
-    host->terminate();
-    EXPECT_EQ(host->waitForEnd(5s), 0);
-    EXPECT_TRUE(within(5s, [&] { return programs().empty(); }));
+    expectHostToEndWhenTold();
 }
 
 TEST_F(BookingByHand, DoesNotKeepAHostThatIsToldToEndWhileItAsksWhetherToSave)
@@ -239,9 +237,7 @@ TEST_F(BookingByHand, DoesNotKeepAHostThatIsToldToEndWhileItAsksWhetherToSave)
     beginBooking("Lecture", 9);
     atHost.close("inspector");
     ASSERT_TRUE(atHost.sees("askToSave"));
-    host->terminate();
-    EXPECT_EQ(host->waitForEnd(5s), 0);
-    EXPECT_TRUE(within(5s, [&] { return programs().empty(); }));
+    expectHostToEndWhenTold();
 }
 
 TEST_F(BookingByHand, GoesWithAHostThatIsKilledWhileTheOrdersFormIsOpen)
@@ -279,9 +275,7 @@ TEST_F(FirstRoom, IsAskedForNoLongerWhenTheHostQuits)
 {
     serveWithWindows();
     ASSERT_TRUE(atProgram.sees("Roomfold for Outlook Booking Info"));
-    host->terminate();
-    EXPECT_EQ(host->waitForEnd(5s), 0);
-    EXPECT_TRUE(within(5s, [&] { return programs().empty(); }));
+    expectHostToEndWhenTold();
 }
 
 TEST_F(FirstRoom, IsAskedForNoLongerWhenTheHostIsKilled)

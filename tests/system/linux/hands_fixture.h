@@ -63,6 +63,14 @@ protected:
         host = std::make_unique<Child>(words);
     }
 
+    /// It asks nobody, and its program goes with it.
+    void expectHostToEndWhenTold()
+    {
+        host->terminate();
+        EXPECT_EQ(host->waitForEnd(5s), 0);
+        EXPECT_TRUE(within(5s, [&] { return programs().empty(); }));
+    }
+
     /// Opens a new appointment at the chosen time. A window that comes before the program listens has no bar; it is
     /// closed and opened again, as people do.
     void openNewAppointment()
