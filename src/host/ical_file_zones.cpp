@@ -50,14 +50,14 @@ FileZone FileZones::find(std::string_view name)
             }
         }
     }
-    if (FileZone zone = known(ianaNameOf(fromUtf8(name))); zone.clocks != nullptr) {
-        return zone;
+    const std::string_view location = definition == nullptr ? std::string_view{} : definition->value("X-LIC-LOCATION");
+    for (const Text& said : {fromUtf8(location), ianaNameOf(fromUtf8(name))}) {
+        if (FileZone zone = known(said); zone.clocks != nullptr) {
+            return zone;
+        }
     }
     if (definition == nullptr) {
         return {};
-    }
-    if (FileZone zone = known(fromUtf8(definition->value("X-LIC-LOCATION"))); zone.clocks != nullptr) {
-        return zone;
     }
     own_.push_back(definedZone(*definition));
     return {.clocks = own_.back().get(), .name = {}};

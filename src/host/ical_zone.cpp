@@ -84,10 +84,11 @@ bool agree(const Zone& left, const Zone& right, Seconds from)
     return true;
 }
 
-/// Programs differ in how they read seconds in an offset, and the names that ICU gives say nothing.
+/// Programs differ in how they read seconds in an offset, and the names that ICU gives say nothing; it calls even
+/// "GMT+3" by another.
 void appendDefinitionLine(std::string& definition, std::string_view line)
 {
-    if (line.starts_with("X-") || line.starts_with("TZNAME")) {
+    if (line.starts_with("X-") || line.starts_with("TZNAME") || line.starts_with("TZID")) {
         return;
     }
     constexpr std::size_t offsetWithSeconds = 7;
@@ -182,7 +183,11 @@ std::string zoneDefinition(TextView name, Seconds from)
     std::string definition;
     for (std::string_view rest = lines; !rest.empty();) {
         const std::size_t end = rest.find("\r\n");
-        appendDefinitionLine(definition, rest.substr(0, end));
+        const std::string_view line = rest.substr(0, end);
+        appendDefinitionLine(definition, line);
+        if (line == "BEGIN:VTIMEZONE") {
+            definition += "TZID:" + toUtf8(name) + "\r\nX-LIC-LOCATION:" + toUtf8(name) + "\r\n";
+        }
         rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 2);
     }
     return definition;

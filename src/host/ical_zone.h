@@ -53,8 +53,9 @@ private:
 /// The IANA name of a zone that is known by its Windows name, such as "Romance Standard Time"; empty for any other.
 [[nodiscard]] Text ianaNameOf(TextView windowsName);
 
-/// The rules of a named zone from a moment on as calendar texts carry them: a VTIMEZONE, lines end with CR LF. Empty
-/// for a name that is none.
+/// The rules of a named zone from a moment on as calendar texts carry them: a VTIMEZONE, lines end with CR LF. It is
+/// called by that name and says that the name is the system's, where a text may mean by "CET" what it wants. Empty for a
+/// name that is none.
 [[nodiscard]] std::string zoneDefinition(TextView name, Seconds from);
 
 } // namespace rf::host::ical

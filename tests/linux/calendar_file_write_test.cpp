@@ -95,6 +95,21 @@ TEST_F(Writing, LeavesASeriesWithoutZoneToTheHoursOfItsReader)
     EXPECT_EQ(exported(item).find("VTIMEZONE"), std::string::npos);
 }
 
+TEST_F(Writing, DefinesAZoneByTheNameThatTheEventsUse)
+{
+    for (const Text zone : {u"UTC", u"Japan", u"CET", u"EST", u"GMT+3", u"GMT+01:30", u"Singapore", u"ART"}) {
+        ItemRecord item = plain();
+        item.recurrence.emplace().rule = u"FREQ=DAILY";
+        item.timeZone = zone;
+        const std::string text = exported(item);
+        EXPECT_TRUE(hasLine(text, "TZID:" + toUtf8(zone))) << text;
+        EXPECT_TRUE(hasLine(text, "X-LIC-LOCATION:" + toUtf8(zone))) << text;
+        const CalendarImport import = readCalendar(text);
+        ASSERT_EQ(import.events.size(), 1U) << text;
+        EXPECT_EQ(import.events[0].item.timeZone, zone) << text;
+    }
+}
+
 TEST_F(Writing, FoldsLinesWithoutBreakingACharacter)
 {
     ItemRecord item = plain();
@@ -260,10 +275,11 @@ private:
         static const std::vector<Text> rules{u"FREQ=DAILY;COUNT=20", u"FREQ=WEEKLY;BYDAY=MO,TH",
             u"FREQ=MONTHLY;BYDAY=-1FR", u"FREQ=YEARLY;UNTIL=20401231T101500", u"freq=daily;interval=2;until=20301231",
             u""};
-        static const std::vector<Text> zones{u"", u"Europe/Brussels", u"America/New_York", u"Etc/UTC", u"Asia/Kolkata"};
+        static const std::vector<Text> zones{u"", u"Europe/Brussels", u"America/New_York", u"Etc/UTC", u"Asia/Kolkata",
+            u"UTC", u"Japan", u"CET", u"EST5EDT", u"GMT+3"};
         RecurrenceRecord& recurrence = item.recurrence.emplace();
         recurrence.rule = rules[static_cast<std::size_t>(number(0, 5))];
-        item.timeZone = item.allDay ? Text{} : zones[static_cast<std::size_t>(number(0, 4))];
+        item.timeZone = item.allDay ? Text{} : zones[static_cast<std::size_t>(number(0, 9))];
         recurrence.additions.push_back(moment(item.allDay));
         for (const Occurrence& occurrence : engine_.expand(item, item.start, item.start.plusMinutes(1440LL * 20))) {
             if (number(0, 1) == 0) {
@@ -310,7 +326,8 @@ TEST_P(AppointmentsThere, ComeBackAsTheyWere)
 }
 
 INSTANTIATE_TEST_SUITE_P(Zones, AppointmentsThere,
-    ::testing::Values("Europe/Brussels", "America/New_York", "Etc/UTC", "Asia/Kolkata", "Pacific/Auckland"));
+    ::testing::Values(
+        "Europe/Brussels", "America/New_York", "Etc/UTC", "Asia/Kolkata", "Pacific/Auckland", "UTC", "Japan", "CET"));
 
 } // namespace
 } // namespace rf::host::test
