@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs every fuzz program of a build for a time each. Ends with status 1 when one crashes, hangs or takes too much memory;
-# the input that did it is then named, and kept below the build.
+# the input that did it is then named, printed, and kept below the build.
 #
 #   scripts/fuzz.sh BUILD_FOLDER SECONDS
 set -uo pipefail
@@ -16,7 +16,7 @@ export ASAN_OPTIONS=abort_on_error=1:hard_rss_limit_mb=$megabytes:detect_leaks=1
 
 # fuzz PROGRAM SECONDS: one program; its log is told when it has ended.
 fuzz() {
-    local program=$1 seconds=$2 name work seeds
+    local program=$1 seconds=$2 name work seeds input
     name=$(basename "$program" _fuzz)
     work=$folder/fuzz/$name
     mkdir -p "$work/corpus" "$work/found"
@@ -27,8 +27,11 @@ fuzz() {
         echo "$name: $(grep -hE 'inputs, seed|number_of_executed_units' "$work/log")"
     else
         tail -n 40 "$work/log"
-        echo "FAILED: $name; the input is in: $(ls -t "$work"/found/* 2> /dev/null | head -n 1)"
+        input=$(ls -t "$work"/found/* 2> /dev/null | head -n 1)
+        echo "FAILED: $name; the input is in: $input"
         echo "Again: $program THAT_FILE"
+        # Where only what is printed is left of the machine, the input is made again by: base64 -d
+        [ -z "$input" ] || base64 -w 120 "$input"
         return 1
     fi
 }
