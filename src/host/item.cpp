@@ -17,17 +17,21 @@ namespace {
 
 automation::Error itemDeleted() { return hostError(host_error::deleted, u"The item has been moved or deleted."); }
 
-/// The change of a series at an occurrence; made when there is none yet.
-OccurrenceChange& changeAt(ItemRecord& series, Date original)
+/// Gives a series the change of one of its occurrences in place of an earlier one. Error `deleted` when there is no
+/// such occurrence any more.
+void takeChange(ItemRecord& series, const OccurrenceChange& change)
 {
+    if (!series.recurrence)
+        throw itemDeleted();
     auto& changes = series.recurrence->changes;
-    const auto found
-        = std::ranges::find(changes, original.seconds(), [](const auto& change) { return change.original.seconds(); });
-    if (found != changes.end())
-        return *found;
-    OccurrenceChange change;
-    change.original = original;
-    return changes.emplace_back(std::move(change));
+    const auto earlier = std::ranges::find(
+        changes, change.original.seconds(), [](const auto& known) { return known.original.seconds(); });
+    if (earlier == changes.end())
+        changes.push_back(change);
+    else if (earlier->deleted)
+        throw itemDeleted();
+    else
+        *earlier = change;
 }
 
 } // namespace
@@ -105,12 +109,8 @@ void Item::commit()
 
 void Item::commitOccurrence()
 {
-    auto series = model_->store().read(occurrence_->series);
-    if (!series || !series->recurrence)
-        throw itemDeleted();
-    OccurrenceChange& change = changeAt(*series, occurrence_->original);
-    if (change.deleted)
-        throw itemDeleted();
+    OccurrenceChange change;
+    change.original = occurrence_->original;
     change.start = record_.start;
     change.end = record_.end;
     change.subject = record_.subject;
@@ -118,11 +118,26 @@ void Item::commitOccurrence()
     change.location = record_.location;
     change.categories = record_.categories;
     change.userProperties = record_.userProperties;
-    series->lastModificationTime = record_.lastModificationTime;
-    if (model_->recurrence() != nullptr)
-        series->recurrence->lastEnd = model_->recurrence()->lastEnd(*series);
-    model_->store().save(*series);
+    changeSeries(change);
     occurrence_->exception = true;
+}
+
+void Item::changeSeries(const OccurrenceChange& change)
+{
+    // Others may be at other occurrences of it at the same time.
+    const auto work = [&](ItemRecord& series) {
+        takeChange(series, change);
+        series.lastModificationTime = model_->clock().now();
+        if (model_->recurrence() != nullptr)
+            series.recurrence->lastEnd = model_->recurrence()->lastEnd(series);
+    };
+    try {
+        model_->store().change(occurrence_->series, work);
+    } catch (const StoreError& error) {
+        if (error.fault() == StoreFault::Missing)
+            throw itemDeleted();
+        throw;
+    }
 }
 
 void Item::remove()
@@ -130,17 +145,10 @@ void Item::remove()
     requireAlive();
     deleted_ = true;
     if (occurrence_) {
-        auto series = model_->store().read(occurrence_->series);
-        if (!series || !series->recurrence)
-            throw itemDeleted();
-        OccurrenceChange& change = changeAt(*series, occurrence_->original);
-        if (change.deleted)
-            throw itemDeleted();
         OccurrenceChange deletion;
-        deletion.original = change.original;
+        deletion.original = occurrence_->original;
         deletion.deleted = true;
-        change = std::move(deletion);
-        model_->store().save(*series);
+        changeSeries(deletion);
     } else if (record_.id != ItemId::None && !model_->store().remove(record_.id)) {
         throw itemDeleted();
     }

@@ -69,6 +69,8 @@ public:
 private:
     void commit();
     void commitOccurrence();
+    /// Gives the stored series of this occurrence a change of it. Error `deleted` when either is gone.
+    void changeSeries(const OccurrenceChange& change);
     /// Saves and answers whether nothing is left to save.
     [[nodiscard]] bool saveForClosing();
     /// Whether the changes are dealt with and the item may close.

@@ -7,6 +7,8 @@ namespace {
 
 [[noreturn]] void folderIsMissing() { throw StoreError{StoreFault::Missing, u"The folder is no longer in the store."}; }
 
+StoreError missingItem() { return {StoreFault::Missing, u"The item is no longer in the store."}; }
+
 void fillIn(ItemRecord& item, const ItemRecord& kept)
 {
     item.id = kept.id;
@@ -103,7 +105,7 @@ void MemoryStore::save(ItemRecord& item)
     }
     const auto found = items_.find(item.id);
     if (found == items_.end())
-        throw StoreError{StoreFault::Missing, u"The item is no longer in the store."};
+        throw missingItem();
     ItemRecord record = kept(item, item.id, found->second.revision + 1);
     const FolderId before = found->second.folder;
     fillIn(item, record);
@@ -115,6 +117,16 @@ void MemoryStore::save(ItemRecord& item)
         log(ChangeKind::Removed, before, item.id);
         log(ChangeKind::Added, item.folder, item.id);
     }
+}
+
+ItemRecord MemoryStore::change(ItemId item, const std::function<void(ItemRecord&)>& work)
+{
+    std::optional<ItemRecord> record = read(item);
+    if (!record)
+        throw missingItem();
+    work(*record);
+    save(*record);
+    return keptRecord(*std::move(record));
 }
 
 void MemoryStore::saveTogether(std::span<ItemRecord> items)

@@ -84,6 +84,11 @@ StoreError missingFolder(const Database& database)
     return database.error(StoreFault::Missing, u"The folder is no longer in the store", u".");
 }
 
+StoreError missingItem(const Database& database)
+{
+    return database.error(StoreFault::Missing, u"The item is no longer in the store", u".");
+}
+
 void fillIn(ItemRecord& item, const ItemRecord& kept)
 {
     item.id = kept.id;
@@ -210,21 +215,39 @@ void SqliteStore::save(ItemRecord& item)
         return;
     }
     ItemRecord record = keptRecord(item);
-    record.size = sizeOf(record);
     Transaction transaction{*database_};
-    const std::optional<StoredItem> before = storedItem(*database_, item.id);
-    if (!before)
-        throw database_->error(StoreFault::Missing, u"The item is no longer in the store", u".");
-    record.revision = before->revision + 1;
-    replaceItem(*database_, record, *before);
-    if (before->folder == record.folder) {
-        log(ChangeKind::Changed, record.folder, record.id);
-    } else {
-        log(ChangeKind::Removed, before->folder, record.id);
-        log(ChangeKind::Added, record.folder, record.id);
-    }
+    replace(record);
     transaction.commit();
     fillIn(item, record);
+}
+
+ItemRecord SqliteStore::change(ItemId item, const std::function<void(ItemRecord&)>& work)
+{
+    Transaction transaction{*database_};
+    std::optional<ItemRecord> record = read(item);
+    if (!record)
+        throw missingItem(*database_);
+    work(*record);
+    *record = keptRecord(*std::move(record));
+    replace(*record);
+    transaction.commit();
+    return *std::move(record);
+}
+
+void SqliteStore::replace(ItemRecord& item)
+{
+    const std::optional<StoredItem> before = storedItem(*database_, item.id);
+    if (!before)
+        throw missingItem(*database_);
+    item.size = sizeOf(item);
+    item.revision = before->revision + 1;
+    replaceItem(*database_, item, *before);
+    if (before->folder == item.folder) {
+        log(ChangeKind::Changed, item.folder, item.id);
+    } else {
+        log(ChangeKind::Removed, before->folder, item.id);
+        log(ChangeKind::Added, item.folder, item.id);
+    }
 }
 
 void SqliteStore::saveTogether(std::span<ItemRecord> items)

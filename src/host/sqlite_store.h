@@ -28,6 +28,7 @@ public:
 
     [[nodiscard]] std::optional<ItemRecord> read(ItemId item) const override;
     void save(ItemRecord& item) override;
+    ItemRecord change(ItemId item, const std::function<void(ItemRecord&)>& work) override;
     void saveTogether(std::span<ItemRecord> items) override;
     bool remove(ItemId item) override;
 
@@ -54,6 +55,8 @@ private:
     };
 
     void log(ChangeKind kind, FolderId folder, ItemId item, std::int32_t arrivedTogether = 1);
+    /// Writes the next revision of an item within a transaction, and fills that in.
+    void replace(ItemRecord& item);
     [[nodiscard]] std::vector<FolderId> withFoldersBelow(FolderId folder) const;
     void removeItemsOf(FolderId folder);
 

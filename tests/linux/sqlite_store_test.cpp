@@ -4,6 +4,7 @@
 #include "linux/sqlite_fixture.h"
 
 #include <algorithm>
+#include <set>
 
 namespace rf::host::test {
 namespace {
@@ -109,6 +110,37 @@ TEST_F(SqliteStoreFile, IsMadeOnceByManyProcesses)
         EXPECT_TRUE(child->wait());
 
     EXPECT_EQ(open().folders().size(), 8U);
+}
+
+TEST_F(SqliteStoreFile, LosesNoneOfTheChangesThatManyProcessesMakeToOneItem)
+{
+    constexpr int processes = 6;
+    constexpr int changes = 40;
+    const FolderId room = makeRoom();
+    ItemRecord item = appointment(room, u"Series", at(1), at(1, 60));
+    item.recurrence.emplace().rule = u"FREQ=DAILY";
+    open().save(item);
+    std::vector<std::unique_ptr<Child>> children;
+    for (int number = 0; number < processes; ++number) {
+        children.push_back(std::make_unique<Child>([&, number] {
+            SqliteStore store = open();
+            for (int change = 0; change < changes; ++change) {
+                store.change(item.id, [&](ItemRecord& series) {
+                    series.recurrence->changes.push_back(deleted(at(1, number * changes + change), at(1), at(1)));
+                });
+            }
+            return true;
+        }));
+    }
+    for (const auto& child : children)
+        EXPECT_TRUE(child->wait());
+
+    const ItemRecord series = open().read(item.id).value_or(ItemRecord{});
+    std::set<std::int64_t> originals;
+    for (const OccurrenceChange& change : series.recurrence->changes)
+        originals.insert(change.original.seconds());
+    EXPECT_EQ(originals.size(), std::size_t{processes * changes});
+    EXPECT_EQ(series.revision, 1 + processes * changes);
 }
 
 TEST_F(SqliteStoreFile, AnswersOneOfManyRemovingProcessesWithTrue)

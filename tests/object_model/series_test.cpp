@@ -167,6 +167,17 @@ TEST_P(SeriesObjects, LoseADeletedOccurrenceOnce)
     EXPECT_TRUE(found(overlapping(2, 17, 9)));
 }
 
+TEST_P(SeriesObjects, ThatAreGoneTakeTheirOccurrencesAlong)
+{
+    bookedWeekly(u"Course");
+    const auto one = found(overlapping(2, 10, 9));
+    const auto other = found(overlapping(2, 17, 9));
+    calendar().items().item(u"Course").remove();
+    one.setSubject(u"Back again");
+    EXPECT_EQ(errorOf([&] { one.save(); }), host::host_error::deleted);
+    EXPECT_EQ(errorOf([&] { other.remove(); }), host::host_error::deleted);
+}
+
 TEST_P(SeriesObjects, KeepNothingOfADeletedExceptionButItsStart)
 {
     const auto series = bookedWeekly(u"Course");

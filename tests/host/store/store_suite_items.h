@@ -69,6 +69,40 @@ TEST_P(StoreSuite, CountsTheRevisionByWhatItHoldsNotByWhatItIsTold)
     EXPECT_EQ(stale.revision, 3);
 }
 
+TEST_P(StoreSuite, ChangesAnItemAsItIsByThen)
+{
+    ItemRecord item = saved(u"Meeting");
+    const ItemRecord stale = item;
+    item.location = u"Hall";
+    store().save(item);
+
+    const ItemRecord changed = store().change(stale.id, [](ItemRecord& stored) { stored.subject = u"Renamed"; });
+    EXPECT_EQ(changed.subject, u"Renamed");
+    EXPECT_EQ(changed.location, u"Hall");
+    EXPECT_EQ(changed.revision, 3);
+    EXPECT_EQ(store().read(stale.id), changed);
+    ASSERT_FALSE(store().changesAfter(2).empty());
+    EXPECT_EQ(store().changesAfter(2).back().kind, ChangeKind::Changed);
+    EXPECT_EQ(store().withSubject(room(), u"renamed"), std::vector{stale.id});
+}
+
+TEST_P(StoreSuite, ChangesNothingWhenTheChangeFails)
+{
+    const ItemRecord item = saved(u"Meeting");
+    const std::int64_t before = store().lastChange();
+    const auto failing = [](ItemRecord& stored) {
+        stored.subject = u"Half done";
+        throw StoreError{StoreFault::Failed, u"No."};
+    };
+    const auto away = [](ItemRecord& stored) { stored.folder = FolderId{99}; };
+
+    EXPECT_EQ(faultOf([&] { store().change(item.id, failing); }), StoreFault::Failed);
+    EXPECT_EQ(faultOf([&] { store().change(item.id, away); }), StoreFault::Missing);
+    EXPECT_EQ(faultOf([&] { store().change(ItemId{12345}, failing); }), StoreFault::Missing);
+    EXPECT_EQ(store().read(item.id), item);
+    EXPECT_EQ(store().lastChange(), before);
+}
+
 TEST_P(StoreSuite, HasNothingOfAnItemThatIsNotThere) { EXPECT_FALSE(store().read(ItemId{12345})); }
 
 TEST_P(StoreSuite, RefusesAnItemInAFolderThatIsNotThere)
