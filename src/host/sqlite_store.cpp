@@ -228,10 +228,10 @@ ItemRecord SqliteStore::change(ItemId item, const std::function<void(ItemRecord&
     if (!record)
         throw missingItem(*database_);
     work(*record);
-    *record = keptRecord(*std::move(record));
-    replace(*record);
+    ItemRecord changed = keptRecord(*std::move(record));
+    replace(changed);
     transaction.commit();
-    return *std::move(record);
+    return changed;
 }
 
 void SqliteStore::replace(ItemRecord& item)
