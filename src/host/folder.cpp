@@ -46,9 +46,7 @@ const void* Folder::identity() const { return model_->identityOf(id_); }
 
 void Folder::update(void (*change)(FolderRecord& record, const Variant& value), const Variant& value) const
 {
-    FolderRecord changed = record();
-    change(changed, value);
-    model_->store().updateFolder(changed);
+    model_->change(id_, [&](FolderRecord& record) { change(record, value); });
 }
 
 std::span<const LocalMember<Folder>> Folder::members()

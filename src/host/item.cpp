@@ -61,13 +61,16 @@ void Item::touch()
 
 void Item::defineField(const FieldDefinition& field)
 {
-    FolderRecord folder = model_->folder(record_.folder);
-    const bool defined = std::ranges::any_of(
-        folder.fields, [&](const FieldDefinition& known) { return equalIgnoringCase(known.name, field.name); });
-    if (defined)
+    const auto defines = [&field](const FolderRecord& folder) {
+        return std::ranges::any_of(
+            folder.fields, [&](const FieldDefinition& known) { return equalIgnoringCase(known.name, field.name); });
+    };
+    if (defines(model_->folder(record_.folder)))
         return;
-    folder.fields.push_back(field);
-    model_->store().updateFolder(folder);
+    model_->change(record_.folder, [&](FolderRecord& folder) {
+        if (!defines(folder))
+            folder.fields.push_back(field);
+    });
 }
 
 bool Item::refused(TextView event)

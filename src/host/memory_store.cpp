@@ -78,6 +78,15 @@ void MemoryStore::updateFolder(const FolderRecord& folder)
     folders_[folder.id] = folder;
 }
 
+void MemoryStore::change(FolderId folder, const std::function<void(FolderRecord&)>& work)
+{
+    requireFolder(folder);
+    FolderRecord record = folders_[folder];
+    work(record);
+    record.id = folder;
+    updateFolder(record);
+}
+
 void MemoryStore::removeFolder(FolderId folder)
 {
     requireFolder(folder);

@@ -21,6 +21,7 @@ public:
     [[nodiscard]] std::optional<FolderId> folderNamed(FolderId parent, TextView name) const override;
     FolderId addFolder(const FolderRecord& folder) override;
     void updateFolder(const FolderRecord& folder) override;
+    void change(FolderId folder, const std::function<void(FolderRecord&)>& work) override;
     void removeFolder(FolderId folder) override;
 
     [[nodiscard]] std::optional<ItemRecord> read(ItemId item) const override;

@@ -19,6 +19,8 @@ constexpr std::chrono::seconds leaseDuration{10};
 constexpr std::chrono::seconds leasePatience{60};
 constexpr std::int32_t mostThatAreAnnounced = 16;
 
+automation::Error folderIsGone() { return hostError(host_error::notFound, u"The folder does not exist."); }
+
 } // namespace
 
 /// The lease of one folder, for as long as the outermost step runs. It may be lost before.
@@ -54,8 +56,19 @@ FolderRecord Model::folder(FolderId id) const
 {
     auto found = store().folder(id);
     if (!found)
-        throw hostError(host_error::notFound, u"The folder does not exist.");
+        throw folderIsGone();
     return *std::move(found);
+}
+
+void Model::change(FolderId id, const std::function<void(FolderRecord&)>& work) const
+{
+    try {
+        store().change(id, work);
+    } catch (const StoreError& error) {
+        if (error.fault() == StoreFault::Missing)
+            throw folderIsGone();
+        throw;
+    }
 }
 
 FolderRecord Model::storeOf(FolderId id) const

@@ -50,6 +50,8 @@ public:
     [[nodiscard]] std::vector<FolderRecord> folders() const { return store().folders(); }
     /// Error `notFound` when the folder is gone.
     [[nodiscard]] FolderRecord folder(FolderId id) const;
+    /// Changes a folder as it is stored, as `Store::change` does. Error `notFound` when the folder is gone.
+    void change(FolderId id, const std::function<void(FolderRecord&)>& work) const;
     /// The default folder of a role in the mailbox of a person. Error `notFound` when there is no such mailbox.
     [[nodiscard]] FolderRecord defaultFolder(FolderRole role, TextView person) const;
     /// The root of the store that a folder lies in.

@@ -160,19 +160,34 @@ FolderId SqliteStore::addFolder(const FolderRecord& folder)
 
 void SqliteStore::updateFolder(const FolderRecord& folder)
 {
-    const Bytes fields = encode(folder.fields);
     Transaction transaction{*database_};
+    replace(folder);
+    transaction.commit();
+}
+
+void SqliteStore::change(FolderId folder, const std::function<void(FolderRecord&)>& work)
+{
+    Transaction transaction{*database_};
+    std::optional<FolderRecord> record = this->folder(folder);
+    if (!record)
+        throw missingFolder(*database_);
+    work(*record);
+    record->id = folder;
+    replace(*record);
+    transaction.commit();
+}
+
+void SqliteStore::replace(const FolderRecord& folder)
+{
     const std::vector<FolderId> below = withFoldersBelow(folder.id);
     if (below.empty())
         throw missingFolder(*database_);
     if (std::ranges::find(below, folder.parent) != below.end())
         throw StoreError{StoreFault::Failed, u"A folder cannot lie inside itself."};
-    {
-        Query query{*database_, updateFolderRow};
-        bindFolder(query, folder, fields);
-        query.bind(folder.id).run();
-    }
-    transaction.commit();
+    const Bytes fields = encode(folder.fields);
+    Query query{*database_, updateFolderRow};
+    bindFolder(query, folder, fields);
+    query.bind(folder.id).run();
 }
 
 void SqliteStore::removeFolder(FolderId folder)

@@ -24,6 +24,7 @@ public:
     [[nodiscard]] std::optional<FolderId> folderNamed(FolderId parent, TextView name) const override;
     FolderId addFolder(const FolderRecord& folder) override;
     void updateFolder(const FolderRecord& folder) override;
+    void change(FolderId folder, const std::function<void(FolderRecord&)>& work) override;
     void removeFolder(FolderId folder) override;
 
     [[nodiscard]] std::optional<ItemRecord> read(ItemId item) const override;
@@ -55,6 +56,8 @@ private:
     };
 
     void log(ChangeKind kind, FolderId folder, ItemId item, std::int32_t arrivedTogether = 1);
+    /// Writes a folder anew within a transaction.
+    void replace(const FolderRecord& folder);
     /// Writes the next revision of an item within a transaction, and fills that in.
     void replace(ItemRecord& item);
     [[nodiscard]] std::vector<FolderId> withFoldersBelow(FolderId folder) const;

@@ -52,6 +52,10 @@ public:
     /// Replaces everything but the id. `Missing` when the folder or its parent is gone, `Failed` when the parent lies
     /// inside the folder itself.
     virtual void updateFolder(const FolderRecord& folder) = 0;
+    /// Has `work` change a folder as it is stored and replaces everything but the id, in one transaction: nobody else's
+    /// change of the folder comes between. Fails as `updateFolder` does. What `work` throws leaves everything as it
+    /// was; it does not use the store itself.
+    virtual void change(FolderId folder, const std::function<void(FolderRecord&)>& work) = 0;
     /// Removes a folder with all that is in it, folders below it included; the log names every item. `Missing` when it
     /// is gone.
     virtual void removeFolder(FolderId folder) = 0;

@@ -143,6 +143,32 @@ TEST_F(SqliteStoreFile, LosesNoneOfTheChangesThatManyProcessesMakeToOneItem)
     EXPECT_EQ(series.revision, 1 + processes * changes);
 }
 
+TEST_F(SqliteStoreFile, LosesNoneOfTheFieldsThatManyProcessesDefine)
+{
+    constexpr int processes = 6;
+    constexpr int fields = 20;
+    const FolderId room = makeRoom();
+    std::vector<std::unique_ptr<Child>> children;
+    for (int number = 0; number < processes; ++number) {
+        children.push_back(std::make_unique<Child>([&, number] {
+            SqliteStore store = open();
+            for (int field = 0; field < fields; ++field) {
+                store.change(room, [&](FolderRecord& folder) {
+                    folder.fields.push_back({u"Field " + decimal(number * fields + field), 1});
+                });
+            }
+            return true;
+        }));
+    }
+    for (const auto& child : children)
+        EXPECT_TRUE(child->wait());
+
+    std::set<Text> names;
+    for (const FieldDefinition& field : open().folder(room).value_or(FolderRecord{}).fields)
+        names.insert(field.name);
+    EXPECT_EQ(names.size(), std::size_t{processes * fields});
+}
+
 TEST_F(SqliteStoreFile, AnswersOneOfManyRemovingProcessesWithTrue)
 {
     const FolderId room = makeRoom();

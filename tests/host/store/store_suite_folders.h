@@ -103,6 +103,38 @@ TEST_P(StoreSuite, ReplacesEverythingOfAFolder)
     EXPECT_EQ(store().folders(), std::vector{folder});
 }
 
+TEST_P(StoreSuite, ChangesAFolderAsItIsByThen)
+{
+    FolderRecord folder = *store().folder(room());
+    folder.fields = {{u"Link", 1}};
+    store().updateFolder(folder);
+
+    store().change(room(), [](FolderRecord& stored) {
+        stored.name = u"Renamed";
+        stored.id = FolderId{99};
+    });
+    folder.name = u"Renamed";
+    EXPECT_EQ(store().folder(room()), folder);
+    EXPECT_EQ(store().folderNamed(FolderId::None, u"renamed"), room());
+}
+
+TEST_P(StoreSuite, KeepsAFolderWhoseChangeFails)
+{
+    const FolderRecord before = *store().folder(room());
+    const auto failing = [](FolderRecord& stored) {
+        stored.name = u"Half done";
+        throw StoreError{StoreFault::Failed, u"No."};
+    };
+    const auto intoItself = [](FolderRecord& stored) { stored.parent = stored.id; };
+    const auto intoNothing = [](FolderRecord& stored) { stored.parent = FolderId{99}; };
+
+    EXPECT_EQ(faultOf([&] { store().change(room(), failing); }), StoreFault::Failed);
+    EXPECT_EQ(faultOf([&] { store().change(room(), intoItself); }), StoreFault::Failed);
+    EXPECT_EQ(faultOf([&] { store().change(room(), intoNothing); }), StoreFault::Missing);
+    EXPECT_EQ(faultOf([&] { store().change(FolderId{99}, failing); }), StoreFault::Missing);
+    EXPECT_EQ(store().folder(room()), before);
+}
+
 TEST_P(StoreSuite, RefusesAFolderBelowOneThatIsNotThere)
 {
     EXPECT_EQ(faultOf([&] { store().addFolder(calendar(u"Lost", FolderId{99})); }), StoreFault::Missing);
