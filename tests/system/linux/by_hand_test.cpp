@@ -6,6 +6,8 @@
 namespace rf::test {
 namespace {
 
+using namespace std::chrono_literals;
+
 constexpr const char* doubleBooking = "No double-bookings are allowed in this calendar. Please select another time!";
 
 constexpr QPoint onTheCircle{8, 8};

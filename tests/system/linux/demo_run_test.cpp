@@ -10,6 +10,7 @@
 namespace rf::test {
 namespace {
 
+using namespace std::chrono_literals;
 using host::ItemRecord;
 
 void expectIn(const std::string& output, const std::string& text)

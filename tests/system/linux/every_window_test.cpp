@@ -6,6 +6,8 @@
 namespace rf::test {
 namespace {
 
+using namespace std::chrono_literals;
+
 constexpr long long minutesAnHour = 60;
 constexpr int hoursADay = 24;
 

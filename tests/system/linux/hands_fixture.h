@@ -27,8 +27,8 @@ protected:
         // A program that loses its host in the middle of a call shows a report, and nobody would answer it.
         if (host != nullptr) {
             host->terminate();
-            static_cast<void>(host->waitForEnd(5s));
-            if (!within(2s, [&] { return programs().empty(); }))
+            static_cast<void>(host->waitForEnd(std::chrono::seconds{5}));
+            if (!within(std::chrono::seconds{2}, [&] { return programs().empty(); }))
                 dismissLateProgram();
         }
         Installed::TearDown();
@@ -67,8 +67,8 @@ protected:
     void expectHostToEndWhenTold()
     {
         host->terminate();
-        EXPECT_EQ(host->waitForEnd(5s), 0);
-        EXPECT_TRUE(within(5s, [&] { return programs().empty(); }));
+        EXPECT_EQ(host->waitForEnd(std::chrono::seconds{5}), 0);
+        EXPECT_TRUE(within(std::chrono::seconds{5}, [&] { return programs().empty(); }));
     }
 
     /// Opens a new appointment at the chosen time. A window that comes before the program listens has no bar; it is
@@ -81,7 +81,7 @@ protected:
             // The calendar may just have moved to make room for another.
             if (!atHost.sees("inspector", {}, std::chrono::milliseconds{2000}))
                 continue;
-            if (atHost.sees("inspector", bookingBar, 500ms))
+            if (atHost.sees("inspector", bookingBar, std::chrono::milliseconds{500}))
                 return;
             atHost.close("inspector");
             ASSERT_TRUE(atHost.misses("inspector"));

@@ -17,7 +17,6 @@ namespace rf::test {
 
 using native::dbus::Child;
 using native::dbus::PrivateBus;
-using namespace std::chrono_literals;
 
 /// More and longer rounds of what happens at random.
 [[nodiscard]] inline bool slowTests() { return std::getenv("RF_SLOW_TESTS") != nullptr; }
@@ -67,19 +66,20 @@ protected:
     {
         host.reset();
         // They end with the host; those that do not are what a test has found.
-        EXPECT_TRUE(within(5s, [&] { return programs().empty(); })) << "a program has outlived its host";
+        EXPECT_TRUE(within(std::chrono::seconds{5}, [&] { return programs().empty(); }))
+            << "a program has outlived its host";
         for (const pid_t id : programs())
             kill(id, SIGKILL);
     }
 
     [[nodiscard]] static std::optional<int> run(
-        const std::vector<std::string>& words, int output = -1, std::chrono::seconds limit = 120s)
+        const std::vector<std::string>& words, int output = -1, std::chrono::seconds limit = std::chrono::seconds{120})
     {
         return Child{words, output}.waitForEnd(limit);
     }
     /// The exit status of a command, and what it writes.
     [[nodiscard]] std::pair<std::optional<int>, std::string> outputOf(
-        const std::vector<std::string>& words, std::chrono::seconds limit = 120s) const
+        const std::vector<std::string>& words, std::chrono::seconds limit = std::chrono::seconds{120}) const
     {
         const auto file = folder.file("output");
         const int output = open(file.c_str(), O_CREAT | O_TRUNC | O_WRONLY | O_CLOEXEC, 0600);

@@ -7,6 +7,7 @@
 namespace rf::test {
 namespace {
 
+using namespace std::chrono_literals;
 using host::FolderId;
 using host::ItemRecord;
 
