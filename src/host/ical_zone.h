@@ -54,8 +54,8 @@ private:
 [[nodiscard]] Text ianaNameOf(TextView windowsName);
 
 /// The rules of a named zone from a moment on as calendar texts carry them: a VTIMEZONE, lines end with CR LF. It is
-/// called by that name and says that the name is the system's, where a text may mean by "CET" what it wants. Empty for a
-/// name that is none.
+/// called by that name and says that the name is the system's, where a text may mean by "CET" what it wants. Empty for
+/// a name that is none.
 [[nodiscard]] std::string zoneDefinition(TextView name, Seconds from);
 
 } // namespace rf::host::ical
