@@ -3,6 +3,7 @@
 #include "host/application.h"
 #include "host/entry_id.h"
 #include "host/installation.h"
+#include "host/recurrence.h"
 #include "host/sqlite_store.h"
 #include "outlook/application.h"
 #include "outlook/appointment_item.h"
@@ -84,24 +85,30 @@ protected:
 struct Program {
     explicit Program(const std::filesystem::path& file, FolderId room)
         : store(file)
-        , host(Application::make({store, regional, clock, windows, nullptr}, {u"11.0", u"Jane Doe"}))
+        , host(Application::make({store, regional, clock, windows, recurrence.get()}, {u"11.0", u"Jane Doe"}))
         , calendar(outlook::Application{automation::Object{host}}.getNamespace().getFolderFromId(entryIdOf(room), {}))
     {
     }
 
-    [[nodiscard]] bool isTaken(Date from, Date to) const
+    /// What has a moment in common with a time between full hours.
+    [[nodiscard]] static Text overlapping(Date from, Date to)
     {
-        const auto literal = [&](Date date) {
+        const auto literal = [](Date date) {
             const auto fields = date.fields();
             return u"\"#" + decimal(fields.year) + u"-" + decimal(fields.month) + u"-" + decimal(fields.day) + u" "
                 + decimal(fields.hour) + u":00#\"";
         };
-        return static_cast<bool>(calendar.items().find(u"[Start] < " + literal(to) + u" and [End] > " + literal(from)));
+        return u"[Start] < " + literal(to) + u" and [End] > " + literal(from);
+    }
+    [[nodiscard]] bool isTaken(Date from, Date to) const
+    {
+        return static_cast<bool>(calendar.items().find(overlapping(from, to)));
     }
 
     PatternRegional regional{englishSettings()};
     SystemClock clock;
     HeadlessWindows windows;
+    std::unique_ptr<RecurrenceEngine> recurrence = makeRecurrenceEngine();
     SqliteStore store;
     std::shared_ptr<Application> host;
     outlook::Folder calendar;
@@ -176,6 +183,35 @@ TEST_F(RulesAtWork, LetExactlyOneOfManyProgramsReplaceAnAddedItem)
     const SqliteStore store{file};
     ASSERT_EQ(store.count(room), 1U);
     EXPECT_EQ(store.read(store.items(room).front())->subject, u"replaced");
+}
+
+TEST_F(RulesAtWork, LoseNoneOfTheOccurrencesThatManyProgramsChange)
+{
+    ItemRecord series;
+    series.folder = room;
+    series.messageClass = u"IPM.Appointment";
+    series.start = Date::fromFields({.year = 2024, .month = 3, .day = 1, .hour = 9});
+    series.end = series.start.plusMinutes(60);
+    series.recurrence.emplace().rule = u"FREQ=DAILY;COUNT=" + decimal(processes);
+    SqliteStore{file}.save(series);
+    const int saved = together([&](int number) {
+        const Program program{file, room};
+        const auto items = program.calendar.items();
+        items.sort(u"[Start]", false);
+        items.setIncludeRecurrences(true);
+        const Date start = series.start.plusMinutes(1440LL * number);
+        const auto occurrence = items.find(Program::overlapping(start, start.plusMinutes(60)));
+        occurrence.userProperties().add(u"Field " + decimal(number), outlook::UserPropertyType::Text, true);
+        occurrence.setSubject(decimal(number));
+        occurrence.save();
+        return true;
+    });
+    EXPECT_EQ(saved, processes);
+    const SqliteStore store{file};
+    const auto changed = store.read(series.id);
+    ASSERT_TRUE(changed && changed->recurrence);
+    EXPECT_EQ(changed->recurrence->changes.size(), std::size_t{processes});
+    EXPECT_EQ(store.folder(room)->fields.size(), std::size_t{processes});
 }
 
 } // namespace
