@@ -128,14 +128,14 @@ void MemoryStore::save(ItemRecord& item)
     }
 }
 
-ItemRecord MemoryStore::change(ItemId item, const std::function<void(ItemRecord&)>& work)
+void MemoryStore::change(ItemId item, const std::function<void(ItemRecord&)>& work)
 {
     std::optional<ItemRecord> record = read(item);
     if (!record)
         throw missingItem();
     work(*record);
+    record->id = item;
     save(*record);
-    return keptRecord(*std::move(record));
 }
 
 void MemoryStore::saveTogether(std::span<ItemRecord> items)

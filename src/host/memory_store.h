@@ -26,7 +26,7 @@ public:
 
     [[nodiscard]] std::optional<ItemRecord> read(ItemId item) const override;
     void save(ItemRecord& item) override;
-    ItemRecord change(ItemId item, const std::function<void(ItemRecord&)>& work) override;
+    void change(ItemId item, const std::function<void(ItemRecord&)>& work) override;
     void saveTogether(std::span<ItemRecord> items) override;
     bool remove(ItemId item) override;
 

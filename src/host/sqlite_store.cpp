@@ -236,7 +236,7 @@ void SqliteStore::save(ItemRecord& item)
     fillIn(item, record);
 }
 
-ItemRecord SqliteStore::change(ItemId item, const std::function<void(ItemRecord&)>& work)
+void SqliteStore::change(ItemId item, const std::function<void(ItemRecord&)>& work)
 {
     Transaction transaction{*database_};
     std::optional<ItemRecord> record = read(item);
@@ -244,9 +244,9 @@ ItemRecord SqliteStore::change(ItemId item, const std::function<void(ItemRecord&
         throw missingItem(*database_);
     work(*record);
     ItemRecord changed = keptRecord(*std::move(record));
+    changed.id = item;
     replace(changed);
     transaction.commit();
-    return changed;
 }
 
 void SqliteStore::replace(ItemRecord& item)

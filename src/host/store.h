@@ -68,9 +68,9 @@ public:
     /// refers to; an object cannot be kept (error 13).
     virtual void save(ItemRecord& item) = 0;
     /// Has `work` change an item as it is stored and writes the next revision, in one transaction: nobody else's change
-    /// of the item comes between. Answers the item as it is then. `Missing` when the item or its folder is gone. What
-    /// `work` throws leaves everything as it was; it does not use the store itself.
-    virtual ItemRecord change(ItemId item, const std::function<void(ItemRecord&)>& work) = 0;
+    /// of the item comes between. Replaces everything but the id, and fails as `save` does. What `work` throws leaves
+    /// everything as it was; it does not use the store itself.
+    virtual void change(ItemId item, const std::function<void(ItemRecord&)>& work) = 0;
     /// Writes many new items in one transaction: all of them or none. Their `id` is ignored.
     virtual void saveTogether(std::span<ItemRecord> items) = 0;
     /// Whether this call removed the item: of any number of callers exactly one is answered with true.

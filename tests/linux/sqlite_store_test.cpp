@@ -136,6 +136,7 @@ TEST_F(SqliteStoreFile, LosesNoneOfTheChangesThatManyProcessesMakeToOneItem)
         EXPECT_TRUE(child->wait());
 
     const ItemRecord series = open().read(item.id).value_or(ItemRecord{});
+    ASSERT_TRUE(series.recurrence);
     std::set<std::int64_t> originals;
     for (const OccurrenceChange& change : series.recurrence->changes)
         originals.insert(change.original.seconds());
