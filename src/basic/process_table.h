@@ -21,7 +21,8 @@ public:
     /// Visits the processes of a snapshot in its order until `visit` answers true. Windows lists every process,
     /// the own one included; Linux leaves out the own one and those of other users, which this user may not end.
     virtual void walk(const std::function<bool(const ProcessEntry&)>& visit) const = 0;
-    /// Whether this user runs another process of this program that was started before this one.
+    /// Whether this user runs another process of this program that was started before this one; on Linux also one that
+    /// came later, when it was started to replace others and this one was not.
     [[nodiscard]] virtual bool previousInstanceRuns() const = 0;
     /// The file name, upper-cased, under which `walk` shows this program.
     [[nodiscard]] virtual TextView programFile() const = 0;

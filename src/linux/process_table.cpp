@@ -1,5 +1,6 @@
 #include "linux/process_table.h"
 
+#include <algorithm>
 #include <charconv>
 #include <csignal>
 #include <filesystem>
@@ -65,6 +66,18 @@ std::optional<unsigned long long> startOf(pid_t id)
     return fields >> start ? std::optional{start} : std::nullopt;
 }
 
+/// Whether a process was started to replace another one, by the same rule as `fncHasArguments`.
+bool hasArguments(pid_t id)
+{
+    std::ifstream file{folderOf(id) / "cmdline", std::ios::binary};
+    // The system ends each word with a zero; the first one is the program.
+    std::string line;
+    std::getline(file, line, '\0');
+    line.assign(std::istreambuf_iterator<char>{file}, {});
+    std::ranges::replace(line, '\0', ' ');
+    return trim(fromUtf8(line)).find(u' ') != Text::npos;
+}
+
 } // namespace
 
 void LinuxProcessTable::walk(const std::function<bool(const ProcessEntry&)>& visit) const
@@ -85,10 +98,13 @@ void LinuxProcessTable::walk(const std::function<bool(const ProcessEntry&)>& vis
 bool LinuxProcessTable::previousInstanceRuns() const
 {
     const auto ownStart = std::pair{startOf(getpid()), getpid()};
+    const bool replaces = hasArguments(getpid());
     bool found = false;
     walk([&](const ProcessEntry& process) {
         const auto id = static_cast<pid_t>(process.id);
-        found = upper(process.executable) == programFile() && std::pair{startOf(id), id} < ownStart;
+        // A later one that replaces may have overtaken this one, and does not look again for who comes behind it.
+        found = upper(process.executable) == programFile()
+            && (std::pair{startOf(id), id} < ownStart || (!replaces && hasArguments(id)));
         return found;
     });
     return found;

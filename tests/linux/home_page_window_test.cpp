@@ -94,6 +94,30 @@ TEST_F(HomePageWindow, OpensTheDescriptionThroughTheCommandLineOfTheProgram)
         "e</p>");
 }
 
+TEST_F(HomePageWindow, OpensOneDescriptionForADoubleClick)
+{
+    const auto script = temporary.file("program");
+    const auto starts = temporary.file("starts");
+    host::test::writeBytes(script, "#!/bin/sh\n[ $# = 0 ] || echo >> " + starts.string() + "\n");
+    std::filesystem::permissions(script, std::filesystem::perms::owner_all);
+    HomePage page{*host, script};
+    windows.setHomePage(&page);
+    window = explore(root);
+    auto& description = in<QPushButton>(window, "description");
+    const auto startsBecome = [&](const std::string& expected) {
+        for (int round = 0; round < 200 && host::test::bytesOf(starts) != expected; ++round)
+            QTest::qWait(10);
+        return host::test::bytesOf(starts) == expected;
+    };
+    click(description);
+    click(description);
+    EXPECT_TRUE(startsBecome("\n"));
+    QTest::qWait(QApplication::doubleClickInterval() + 1);
+    EXPECT_EQ(host::test::bytesOf(starts), "\n");
+    click(description);
+    EXPECT_TRUE(startsBecome("\n\n"));
+}
+
 TEST_F(HomePageWindow, SaysWhatToDoWhereThereIsNoResource)
 {
     store.removeFolder(room);

@@ -5,6 +5,7 @@
 #include "linux/rfhost/windows/person.h"
 #include "linux/rfhost/windows/roomy_rows.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QInputDialog>
 #include <QLabel>
@@ -143,6 +144,10 @@ void HomePageView::addResource()
 
 void HomePageView::describe()
 {
+    // Two clicks that make a double click are meant as one: both programs would find the same one to replace, and stay.
+    if (described_.isValid() && !described_.hasExpired(QApplication::doubleClickInterval()))
+        return;
+    described_.start();
     if (const auto* const item = list_->currentItem())
         page_.showDescription(root_.id, textOf(item->text()));
 }

@@ -3,6 +3,7 @@
 #include "host/model.h"
 #include "linux/rfhost/home_page.h"
 
+#include <QElapsedTimer>
 #include <QWidget>
 #include <memory>
 
@@ -37,6 +38,8 @@ private:
     HomePage& page_;
     host::FolderRecord root_;
     std::vector<HomePage::Calendar> shown_;
+    /// Since a description was last asked for.
+    QElapsedTimer described_;
     QLabel* title_;
     QListWidget* list_;
     QPushButton* add_;
