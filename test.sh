@@ -92,13 +92,23 @@ rows_of_tests() {
     echo "run_tests linux object_model_tests"
 }
 
+# failed_parts LOG: what the failed tests wrote; where none failed, the last that the program wrote.
+failed_parts() {
+    tr -d '\r' < "$1" | grep -avE '^This plugin does not support|Failed to set fd limit' | cut -c 1-1000 | awk '
+        function tell(last) { for (i = lines > last ? lines - last : 0; i < lines; i++) print line[i]; told = 1 }
+        /^\[ RUN / { lines = 0 }
+        { line[lines++] = $0 }
+        /^\[  FAILED  \].* ms\)$/ { tell(20) }
+        END { if (!told) tell(60) }' | head -n 80
+}
+
 # tell_failures SYSTEM LABEL: what the test programs of a system found.
 tell_failures() {
     local status log
     for status in build/logs/"$1"-*_tests*.status; do
         [ -f "$status" ] && [ "$(cat "$status")" != 0 ] || continue
         log=${status%.status}.log
-        grep -aE '^\[  FAILED|Failure|ERROR|runtime error' "$log" | head -n 40
+        failed_parts "$log"
         fail "$2: $(basename "$log" .log | cut -d- -f2) ended with status $(cat "$status") (log: $log)"
     done
 }
@@ -180,7 +190,7 @@ if [ $slow = yes ]; then
         step "libFuzzer, 120 s for each parser" scripts/fuzz.sh build/linux-fuzz 120
     fi
     if install_packages $tidy_packages; then
-        step "clang-tidy" scripts/tidy.sh build/linux-asan
+        step "clang-tidy" scripts/tidy.sh linux-asan
     else
         notes+=("skipped: clang-tidy (install: apt-get install $tidy_packages)")
     fi

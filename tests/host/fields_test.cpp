@@ -176,9 +176,9 @@ TEST(MinuteOf, CountsWholeMinutesFromTheZeroDate)
 
 TEST(MinuteOf, IgnoresTheNoiseOfAFraction)
 {
-    const Date nine = Date::fromFields({.year = 2001, .month = 2, .day = 1, .hour = 9});
-    EXPECT_EQ(minuteOf(Date{nine.days() - 1e-9}), minuteOf(nine));
-    EXPECT_EQ(minuteOf(Date{nine.days() + 1e-9}), minuteOf(nine));
+    const Date nineOClock = Date::fromFields({.year = 2001, .month = 2, .day = 1, .hour = 9});
+    EXPECT_EQ(minuteOf(Date{nineOClock.days() - 1e-9}), minuteOf(nineOClock));
+    EXPECT_EQ(minuteOf(Date{nineOClock.days() + 1e-9}), minuteOf(nineOClock));
 }
 
 TEST(MinuteOf, TakesTheNearestMinuteForWhatIsNoDate)

@@ -1,4 +1,4 @@
-#include "host/calendar_file.h"
+#include "linux/calendar_file_problems.h"
 #include "linux/ical_support.h"
 
 #include <gtest/gtest.h>
@@ -16,18 +16,6 @@ std::string calendar(std::string_view lines)
 
 /// An event of these lines, of which the first is line 3.
 std::string event(std::string_view lines) { return calendar("BEGIN:VEVENT\n" + std::string{lines} + "END:VEVENT\n"); }
-
-std::vector<std::size_t> linesOf(const CalendarImport& import)
-{
-    std::vector<std::size_t> lines;
-    for (const CalendarProblem& problem : import.problems) {
-        EXPECT_TRUE(problem.sentence.ends_with(u'.')) << toUtf8(problem.sentence);
-        lines.push_back(problem.line);
-    }
-    return lines;
-}
-
-using Lines = std::vector<std::size_t>;
 
 class Reading : public ::testing::Test {
 protected:

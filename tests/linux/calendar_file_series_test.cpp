@@ -1,4 +1,4 @@
-#include "host/calendar_file.h"
+#include "linux/calendar_file_problems.h"
 #include "linux/ical_support.h"
 
 #include <gtest/gtest.h>
@@ -6,23 +6,12 @@
 namespace rf::host::test {
 namespace {
 
-std::string event(std::string_view lines) { return "BEGIN:VEVENT\n" + std::string{lines} + "END:VEVENT\n"; }
+std::string eventOf(std::string_view lines) { return "BEGIN:VEVENT\n" + std::string{lines} + "END:VEVENT\n"; }
 
 CalendarImport read(const std::string& events)
 {
     return readCalendar("BEGIN:VCALENDAR\n" + events + "END:VCALENDAR\n");
 }
-
-std::vector<std::size_t> linesOf(const CalendarImport& import)
-{
-    std::vector<std::size_t> lines;
-    for (const CalendarProblem& problem : import.problems) {
-        lines.push_back(problem.line);
-    }
-    return lines;
-}
-
-using Lines = std::vector<std::size_t>;
 
 class SeriesInFile : public ::testing::Test {
 protected:
@@ -36,11 +25,11 @@ protected:
     Starts all(const std::string& events) { return startsOf(only(events), "20240101", "20250101"); }
 
     const InZone newYork_{"America/New_York"};
-    const std::string master_ = event("UID:s\nSUMMARY:Series\nDTSTART;TZID=Europe/Brussels:20240304T090000\n"
-                                      "DTEND;TZID=Europe/Brussels:20240304T100000\nRRULE:FREQ=WEEKLY;COUNT=3\n");
-    const std::string moved_ = event("UID:s\nRECURRENCE-ID;TZID=Europe/Brussels:20240311T090000\nSUMMARY:Moved\n"
-                                     "LOCATION:Hall\nDTSTART;TZID=Europe/Brussels:20240312T110000\n"
-                                     "DTEND;TZID=Europe/Brussels:20240312T120000\n");
+    const std::string master_ = eventOf("UID:s\nSUMMARY:Series\nDTSTART;TZID=Europe/Brussels:20240304T090000\n"
+                                        "DTEND;TZID=Europe/Brussels:20240304T100000\nRRULE:FREQ=WEEKLY;COUNT=3\n");
+    const std::string moved_ = eventOf("UID:s\nRECURRENCE-ID;TZID=Europe/Brussels:20240311T090000\nSUMMARY:Moved\n"
+                                       "LOCATION:Hall\nDTSTART;TZID=Europe/Brussels:20240312T110000\n"
+                                       "DTEND;TZID=Europe/Brussels:20240312T120000\n");
 };
 
 TEST_F(SeriesInFile, KeepsItsZone)
@@ -57,16 +46,16 @@ TEST_F(SeriesInFile, KeepsItsZone)
 
 TEST_F(SeriesInFile, HasNoZoneWithoutOne)
 {
-    const ItemRecord item = only(event("DTSTART:20240304T090000\nRRULE:FREQ=DAILY;COUNT=2\n"));
+    const ItemRecord item = only(eventOf("DTSTART:20240304T090000\nRRULE:FREQ=DAILY;COUNT=2\n"));
     EXPECT_EQ(item.timeZone, u"");
     EXPECT_EQ(item.start, date("20240304T090000"));
-    EXPECT_EQ(only(event("DTSTART:20240304T090000Z\nRRULE:FREQ=DAILY\n")).timeZone, u"Etc/UTC");
-    EXPECT_EQ(only(event("DTSTART;VALUE=DATE:20240304\nRRULE:FREQ=DAILY\n")).timeZone, u"");
+    EXPECT_EQ(only(eventOf("DTSTART:20240304T090000Z\nRRULE:FREQ=DAILY\n")).timeZone, u"Etc/UTC");
+    EXPECT_EQ(only(eventOf("DTSTART;VALUE=DATE:20240304\nRRULE:FREQ=DAILY\n")).timeZone, u"");
 }
 
 TEST_F(SeriesInFile, EndsByTheClocksOfItsZone)
 {
-    const auto rule = [this](const std::string& lines) { return only(event(lines)).recurrence->rule; };
+    const auto rule = [this](const std::string& lines) { return only(eventOf(lines)).recurrence->rule; };
     EXPECT_EQ(
         rule("DTSTART;TZID=Europe/Brussels:20240304T090000\nRRULE:FREQ=DAILY;UNTIL=20240401T070000Z;INTERVAL=2\n"),
         u"FREQ=DAILY;UNTIL=20240401T090000;INTERVAL=2");
@@ -97,26 +86,26 @@ TEST_F(SeriesInFile, IsToldItsOccurrencesInAnyForm)
     const std::string head = "UID:s\nDTSTART;TZID=Europe/Brussels:20240304T090000\nRRULE:FREQ=WEEKLY;COUNT=3\n";
     for (const char* const line : {"EXDATE;TZID=Europe/Brussels:20240311T090000\n", "EXDATE:20240311T080000Z\n",
              "EXDATE;VALUE=DATE:20240311\n", "EXDATE:20240311T040000\n", "EXDATE;TZID=Asia/Tokyo:20240311T170000\n"}) {
-        EXPECT_EQ(all(event(head + line)), (Starts{"20240304T030000", "20240318T040000"})) << line;
+        EXPECT_EQ(all(eventOf(head + line)), (Starts{"20240304T030000", "20240318T040000"})) << line;
     }
     const std::string days = "DTSTART;VALUE=DATE:20240304\nRRULE:FREQ=DAILY;COUNT=3\n";
     for (const char* const line : {"EXDATE;VALUE=DATE:20240305\n", "EXDATE:20240305T000000\n"}) {
-        EXPECT_EQ(all(event(days + line)), (Starts{"20240304T000000", "20240306T000000"})) << line;
+        EXPECT_EQ(all(eventOf(days + line)), (Starts{"20240304T000000", "20240306T000000"})) << line;
     }
 }
 
 TEST_F(SeriesInFile, LosesCancelledOccurrences)
 {
-    const std::string cancelled = event("UID:s\nRECURRENCE-ID:20240311T080000Z\nSTATUS:CANCELLED\n");
+    const std::string cancelled = eventOf("UID:s\nRECURRENCE-ID:20240311T080000Z\nSTATUS:CANCELLED\n");
     EXPECT_EQ(all(master_ + cancelled), (Starts{"20240304T030000", "20240318T040000"}));
     EXPECT_EQ(all(moved_ + master_ + cancelled), (Starts{"20240304T030000", "20240318T040000"}));
 }
 
 TEST_F(SeriesInFile, TakesFurtherStarts)
 {
-    EXPECT_EQ(all(event("DTSTART:20240304T090000\nRDATE:20240401T100000,20240304T090000\nRDATE:20240402T100000\n")),
+    EXPECT_EQ(all(eventOf("DTSTART:20240304T090000\nRDATE:20240401T100000,20240304T090000\nRDATE:20240402T100000\n")),
         (Starts{"20240304T090000", "20240401T100000", "20240402T100000"}));
-    EXPECT_EQ(all(event("DTSTART:20240304T090000\nRDATE;VALUE=PERIOD:20240401T100000/PT1H\n")),
+    EXPECT_EQ(all(eventOf("DTSTART:20240304T090000\nRDATE;VALUE=PERIOD:20240401T100000/PT1H\n")),
         (Starts{"20240304T090000", "20240401T100000"}));
 }
 
@@ -132,7 +121,7 @@ TEST_F(SeriesInFile, ThatIsMissingLeavesItsChangesAsSingleEvents)
 TEST_F(SeriesInFile, ThatIsCancelledTakesItsChangesAlong)
 {
     const CalendarImport import
-        = read(event("UID:s\nSTATUS:CANCELLED\nDTSTART:20240304T090000\nRRULE:FREQ=DAILY\n") + moved_);
+        = read(eventOf("UID:s\nSTATUS:CANCELLED\nDTSTART:20240304T090000\nRRULE:FREQ=DAILY\n") + moved_);
     EXPECT_TRUE(import.events.empty());
     EXPECT_EQ(linesOf(import), Lines{2});
 }
@@ -140,7 +129,7 @@ TEST_F(SeriesInFile, ThatIsCancelledTakesItsChangesAlong)
 TEST_F(SeriesInFile, NamesWhatItCannotFollow)
 {
     const auto problems
-        = [](const std::string& lines) { return linesOf(read(event("DTSTART:20240304T090000\n" + lines))); };
+        = [](const std::string& lines) { return linesOf(read(eventOf("DTSTART:20240304T090000\n" + lines))); };
     EXPECT_EQ(problems("RRULE:FREQ=OFTEN\n"), Lines{4});
     EXPECT_EQ(problems("RRULE:FREQ=DAILY\nRRULE:FREQ=WEEKLY\n"), Lines{5});
     EXPECT_EQ(problems("RRULE:FREQ=DAILY\nEXRULE:FREQ=WEEKLY\n"), Lines{5});
@@ -148,7 +137,7 @@ TEST_F(SeriesInFile, NamesWhatItCannotFollow)
     EXPECT_EQ(problems("RDATE:never\n"), Lines{4});
     EXPECT_EQ(problems("RECURRENCE-ID:never\n"), Lines{4});
     EXPECT_EQ(problems("RECURRENCE-ID;RANGE=THISANDFUTURE:20240304T090000\n"), Lines{4});
-    EXPECT_FALSE(read(event("DTSTART:20240304T090000\nRRULE:FREQ=OFTEN\n")).events.at(0).item.recurrence);
+    EXPECT_FALSE(read(eventOf("DTSTART:20240304T090000\nRRULE:FREQ=OFTEN\n")).events.at(0).item.recurrence);
 }
 
 /// Clocks that are half an hour ahead of UTC in winter and two hours in summer, as nobody's are.
@@ -161,7 +150,7 @@ constexpr std::string_view ownZone = "BEGIN:VTIMEZONE\nTZID:Custom\n"
 TEST_F(SeriesInFile, FollowsAZoneThatTheTextDefines)
 {
     const std::string events
-        = event("DTSTART;TZID=Custom:20240304T120000\n") + event("DTSTART;TZID=Custom:20240704T120000\n");
+        = eventOf("DTSTART;TZID=Custom:20240304T120000\n") + eventOf("DTSTART;TZID=Custom:20240704T120000\n");
     for (const std::string& text : {std::string{ownZone} + events, events + std::string{ownZone}}) {
         const CalendarImport import = read(text);
         ASSERT_EQ(import.events.size(), 2U);
@@ -174,7 +163,7 @@ TEST_F(SeriesInFile, FollowsAZoneThatTheTextDefines)
 TEST_F(SeriesInFile, NamesAZoneWhoseHoursItCannotKeep)
 {
     const CalendarImport import
-        = read(std::string{ownZone} + event("DTSTART;TZID=Custom:20240304T120000\nRRULE:FREQ=DAILY;COUNT=2\n"));
+        = read(std::string{ownZone} + eventOf("DTSTART;TZID=Custom:20240304T120000\nRRULE:FREQ=DAILY;COUNT=2\n"));
     ASSERT_EQ(import.events.size(), 1U);
     EXPECT_EQ(linesOf(import), Lines{18});
     EXPECT_EQ(import.events[0].item.timeZone, u"");
@@ -188,7 +177,7 @@ TEST_F(SeriesInFile, FindsTheNameOfAZoneThatIsDefinedUnderAnother)
                              "RRULE:FREQ=YEARLY;BYMONTH=10;BYDAY=-1SU\nEND:STANDARD\n"
                              "BEGIN:DAYLIGHT\nDTSTART:16010325T020000\nTZOFFSETFROM:+0100\nTZOFFSETTO:+0200\n"
                              "RRULE:FREQ=YEARLY;BYMONTH=3;BYDAY=-1SU\nEND:DAYLIGHT\nEND:VTIMEZONE\n";
-    const std::string text = zone + event("DTSTART;TZID=Our office:20240304T090000\nRRULE:FREQ=WEEKLY;COUNT=2\n");
+    const std::string text = zone + eventOf("DTSTART;TZID=Our office:20240304T090000\nRRULE:FREQ=WEEKLY;COUNT=2\n");
     const ItemRecord abroad = only(text);
     EXPECT_NE(abroad.timeZone, u"");
     EXPECT_EQ(startsOf(abroad, "20240101", "20250101"), (Starts{"20240304T030000", "20240311T040000"}));

@@ -141,9 +141,10 @@ public:
             texts.push_back(text.toString().toStdString());
         return texts;
     }
+    /// In one line.
     [[nodiscard]] std::string everything()
     {
-        return QJsonDocument{exchange(order("look around", {}, {}, {}))}.toJson().toStdString();
+        return QJsonDocument{exchange(order("look around", {}, {}, {}))}.toJson(QJsonDocument::Compact).toStdString();
     }
     void darken() { insist("darken", {}, {}); }
     void grab(const QString& window, const std::filesystem::path& file)

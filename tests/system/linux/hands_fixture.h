@@ -20,10 +20,12 @@ protected:
 
     void TearDown() override
     {
+        if (HasFailure())
+            std::cerr << "Programs that run: " << programs().size() << '\n';
         if (HasFailure() && atHost.isThere())
-            std::cerr << "The host: " << atHost.everything();
+            std::cerr << "The host: " << atHost.everything() << '\n';
         if (HasFailure() && atProgram.isThere())
-            std::cerr << "The program: " << atProgram.everything();
+            std::cerr << "The program: " << atProgram.everything() << '\n';
         // A program that loses its host in the middle of a call shows a report, and nobody would answer it.
         if (host != nullptr) {
             host->terminate();
@@ -42,7 +44,7 @@ protected:
         for (const char* const button : {"No", "OK"})
             if (!late.look({}, button).isEmpty())
                 return late.click({}, button);
-        std::cerr << "The program that stays: " << late.everything();
+        std::cerr << "The program that stays: " << late.everything() << '\n';
     }
     void makeRooms(std::initializer_list<TextView> rooms) const
     {

@@ -3,13 +3,12 @@
 namespace rf::test {
 namespace {
 
-constexpr std::chrono::milliseconds settleTime{1500};
-constexpr std::chrono::seconds startTime{20};
-constexpr int killedStatus = 128 + SIGKILL;
-
 /// Instances without a host: a message says so and stays.
 struct Instances : Installed {
     const EnvironmentVariable screen{"QT_QPA_PLATFORM", "offscreen"};
+    static constexpr std::chrono::milliseconds settleTime{1500};
+    static constexpr std::chrono::seconds startTime{20};
+    static constexpr int killedStatus = 128 + SIGKILL;
 };
 
 /// The host starts the program whenever it shows the root folder. On a busy machine that one may still be on its way
