@@ -81,15 +81,14 @@ TEST(DbusClassRegistryWithoutABus, SaysSoAtOnce)
 {
     const QtProcess process;
     for (const char* address : {"", "unix:path=/nowhere/bus", "nonsense"}) {
-        setenv("DBUS_SESSION_BUS_ADDRESS", address, 1);
-        unsetenv("XDG_RUNTIME_DIR");
+        const rf::test::EnvironmentVariable bus{"DBUS_SESSION_BUS_ADDRESS", address};
+        const rf::test::EnvironmentVariable runtime{"XDG_RUNTIME_DIR", ""};
         LinuxClassRegistry registry;
         const auto start = std::chrono::steady_clock::now();
         EXPECT_EQ(errorOf([&] { return registry.running(boilerClass); }), 429);
         EXPECT_EQ(errorOf([&] { return registry.create(boilerClass); }), 429);
         EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds{1});
     }
-    unsetenv("DBUS_SESSION_BUS_ADDRESS");
 }
 
 TEST(DbusClassRegistryWithoutABus, NeedsAQtApplication)
@@ -111,18 +110,15 @@ public:
         file << "[D-BUS Service]\nName=Test.Boiler\nExec=";
         for (const auto& word : commandFor("BoilerServer.DISABLED_Serves"))
             file << word << ' ';
-        setenv("XDG_DATA_HOME", path_.c_str(), 1);
+        variable_.emplace("XDG_DATA_HOME", path_.string());
     }
     ServicesFolder(const ServicesFolder&) = delete;
     ServicesFolder& operator=(const ServicesFolder&) = delete;
-    ~ServicesFolder()
-    {
-        unsetenv("XDG_DATA_HOME");
-        std::filesystem::remove_all(path_);
-    }
+    ~ServicesFolder() { std::filesystem::remove_all(path_); }
 
 private:
     std::filesystem::path path_;
+    std::optional<rf::test::EnvironmentVariable> variable_;
 };
 
 struct DbusActivation : testing::Test {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/environment_variable.h"
+
 #include <array>
 #include <chrono>
 #include <csignal>
@@ -111,11 +113,8 @@ public:
         close(ends[0]);
         if (length > 1)
             address_.assign(line.data(), static_cast<std::size_t>(length) - 1);
-        setenv("DBUS_SESSION_BUS_ADDRESS", address_.c_str(), 1);
+        variable_.emplace("DBUS_SESSION_BUS_ADDRESS", address_);
     }
-    PrivateBus(const PrivateBus&) = delete;
-    PrivateBus& operator=(const PrivateBus&) = delete;
-    ~PrivateBus() { unsetenv("DBUS_SESSION_BUS_ADDRESS"); }
 
     [[nodiscard]] bool isThere() const { return !address_.empty(); }
     [[nodiscard]] const std::string& address() const { return address_; }
@@ -132,6 +131,7 @@ private:
 
     std::unique_ptr<Child> daemon_;
     std::string address_;
+    std::optional<rf::test::EnvironmentVariable> variable_;
 };
 
 } // namespace rf::native::dbus

@@ -190,10 +190,7 @@ TEST_F(DbusClient, NestsEventsInCallsTwentyDeep)
 
 /// Qt waits in GLib's loop or in one of its own, which sleep and wake at different moments.
 struct WithoutGLib {
-    WithoutGLib() { setenv("QT_NO_GLIB", "1", 1); }
-    WithoutGLib(const WithoutGLib&) = delete;
-    WithoutGLib& operator=(const WithoutGLib&) = delete;
-    ~WithoutGLib() { unsetenv("QT_NO_GLIB"); }
+    const rf::test::EnvironmentVariable variable{"QT_NO_GLIB", "1"};
 };
 
 struct DbusWithoutGLib : WithoutGLib, DbusClient { };

@@ -19,15 +19,8 @@ protected:
 };
 
 /// A process with windows, drawn off screen.
-struct WindowProcess {
-    WindowProcess() { setenv("QT_QPA_PLATFORM", "offscreen", 1); }
-    WindowProcess(const WindowProcess&) = delete;
-    WindowProcess& operator=(const WindowProcess&) = delete;
-    ~WindowProcess() { unsetenv("QT_QPA_PLATFORM"); }
-};
-
 struct DbusWindows : testing::Test {
-    WindowProcess environment;
+    const rf::test::EnvironmentVariable platform{"QT_QPA_PLATFORM", "offscreen"};
     int argumentCount = 1;
     char name[5] = "test";
     char* arguments[2] = {name, nullptr};

@@ -11,11 +11,7 @@ namespace {
 /// The root folder with its home page; its temporary files lie in a folder of the test.
 struct HomePageWindow : ExplorerWindows {
     const host::test::TemporaryFolder temporary;
-
-    HomePageWindow() { setenv("TMPDIR", temporary.path().c_str(), 1); }
-    HomePageWindow(const HomePageWindow&) = delete;
-    HomePageWindow& operator=(const HomePageWindow&) = delete;
-    ~HomePageWindow() override { unsetenv("TMPDIR"); }
+    const rf::test::EnvironmentVariable variable{"TMPDIR", temporary.path()};
 
     [[nodiscard]] QListWidget& calendars() const { return in<QListWidget>(window, "calendars"); }
     [[nodiscard]] std::string selection() const { return host::test::bytesOf(temporary.file("RFSel.txt")); }

@@ -23,7 +23,7 @@ namespace rf::native {
 
 /// A host with windows that nobody sees, driven as a person drives it.
 struct HostWindowFixture : testing::Test {
-    OffscreenPlatform platform;
+    const rf::test::EnvironmentVariable platform{"QT_QPA_PLATFORM", "offscreen"};
     int argumentCount = 1;
     char name[5] = "test";
     char* arguments[2] = {name, nullptr};

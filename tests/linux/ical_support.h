@@ -5,8 +5,8 @@
 #include "host/ical_wall_time.h"
 #include "host/records.h"
 #include "host/recurrence.h"
+#include "support/environment_variable.h"
 
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,26 +14,11 @@
 namespace rf::host::test {
 
 /// The installation stands in a time zone while this lives.
-class InZone {
-public:
+struct InZone : rf::test::EnvironmentVariable {
     explicit InZone(const char* name)
-        : before_(std::getenv("TZ") == nullptr ? "" : std::getenv("TZ"))
+        : EnvironmentVariable{"TZ", name}
     {
-        ::setenv("TZ", name, 1);
     }
-    ~InZone()
-    {
-        if (before_.empty()) {
-            ::unsetenv("TZ");
-        } else {
-            ::setenv("TZ", before_.c_str(), 1);
-        }
-    }
-    InZone(const InZone&) = delete;
-    InZone& operator=(const InZone&) = delete;
-
-private:
-    std::string before_;
 };
 
 /// "20240203" or "20240203T103000".

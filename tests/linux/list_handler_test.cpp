@@ -1,4 +1,5 @@
 #include "orders_fixture.h"
+#include "support/temporary_files.h"
 
 #include <algorithm>
 
@@ -224,6 +225,7 @@ TEST_P(ListOverSpreadsheet, ClearsEverythingInEditMode)
 
 TEST_P(ListOverSpreadsheet, PrintsEveryNameAsText)
 {
+    const test::TemporaryFiles temporary;
     list.SetTextFormat(u"A2:A50");
     write(u"A2:A" + decimal(static_cast<long long>(test::oddNames().size()) + 1), column(test::oddNames()));
     list.PrintSheet();

@@ -6,6 +6,7 @@
 
 #include "orders/orders_form_fixture.h"
 #include "support/phrase_resource.h"
+#include "support/temporary_files.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -274,6 +275,7 @@ TEST_F(OrdersWindow, ShowsAllColumnsWithoutScrollingSideways)
 
 TEST_F(OrdersWindow, PrintsAListByTheBrowserOfThisPlatform)
 {
+    const test::TemporaryFiles temporary;
     const auto other = keeping.makeFormWindow();
     cListHandler list{*booker.session};
     list.controlName = u"exsList";

@@ -2,6 +2,7 @@
 
 #include "linux/form_window.h"
 #include "linux/toolkit.h"
+#include "support/environment_variable.h"
 
 #include <QApplication>
 #include <QDir>
@@ -12,17 +13,9 @@
 
 namespace rf::native {
 
-/// A screen that nobody sees, as long as this object lives.
-struct OffscreenPlatform {
-    OffscreenPlatform() { setenv("QT_QPA_PLATFORM", "offscreen", 1); }
-    OffscreenPlatform(const OffscreenPlatform&) = delete;
-    OffscreenPlatform& operator=(const OffscreenPlatform&) = delete;
-    ~OffscreenPlatform() { unsetenv("QT_QPA_PLATFORM"); }
-};
-
-/// Windows driven as a person drives them.
+/// Windows on a screen that nobody sees, driven as a person drives them.
 struct WindowFixture : testing::Test {
-    OffscreenPlatform platform;
+    const rf::test::EnvironmentVariable platform{"QT_QPA_PLATFORM", "offscreen"};
     int argumentCount = 1;
     char name[5] = "test";
     char* arguments[2] = {name, nullptr};
