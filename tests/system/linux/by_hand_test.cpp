@@ -127,8 +127,7 @@ TEST_F(BookingByHand, IsMadeWithItsOrderAndBothCopies)
 {
     openRoom();
     beginBooking("Board meeting", 9);
-    pressBookingInfo();
-    ASSERT_TRUE(atProgram.sees({}, "cmdOK"));
+    ASSERT_NO_FATAL_FAILURE(openOrdersForm());
     EXPECT_EQ(atProgram.textOf({}, "txtBooker"), "Jane Doe");
     order(1, "3");
     order(2, "2");
@@ -246,8 +245,7 @@ TEST_F(BookingByHand, GoesWithAHostThatIsKilledWhileTheOrdersFormIsOpen)
 {
     openRoom();
     beginBooking("Board meeting", 9);
-    pressBookingInfo();
-    ASSERT_TRUE(atProgram.sees({}, "cmdOK"));
+    ASSERT_NO_FATAL_FAILURE(openOrdersForm());
     order(1, "3");
     host->end();
     EXPECT_TRUE(within(5s, [&] { return programs().empty(); }));

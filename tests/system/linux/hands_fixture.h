@@ -97,6 +97,21 @@ protected:
         const int height = atHost.look("inspector", bookingBar)["height"].toInt();
         atHost.clickAt("inspector", bookingBar, {inside, height / 2});
     }
+    /// Opens the orders form of the appointment. One that comes while the program still reads its settings has no place
+    /// settings yet; it is closed and opened again, as people do.
+    void openOrdersForm()
+    {
+        constexpr int attempts = 20;
+        for (int attempt = 0; attempt < attempts; ++attempt) {
+            pressBookingInfo();
+            ASSERT_TRUE(atProgram.sees({}, "cmdOK"));
+            if (atProgram.sees({}, "optPlaceSetting1", std::chrono::milliseconds{500}))
+                return;
+            atProgram.click({}, "cmdCancel");
+            ASSERT_TRUE(atProgram.misses({}, "cmdOK"));
+        }
+        FAIL() << "no place settings";
+    }
 
     /// Keeps a picture of a window where RF_PICTURES says; dark when RF_DARK is set.
     static void picture(HandsOn& hands, const QString& window, const std::string& name)
